@@ -1,0 +1,2 @@
+#include "SystemResourceMonitor.h"
+SystemResourceMonitor::SystemResourceMonitor() = default;
