@@ -101,7 +101,7 @@ public:
     /// @param timestamp seconds since the epoch, passed on to the server and logged
     /// @param type      the ErrorType, CameraDisconnected or StationDisconnected
     /// @return whether the host accepted the request
-    Q_INVOKABLE bool setSnooze(QString nodeID, qlonglong timestamp, int type);
+    Q_INVOKABLE bool setSnooze(const QString &nodeID, qlonglong timestamp, int type);
 
     /// Reconciles every node of the topology model with the error list.
     Q_INVOKABLE void initNodeStatusError();
@@ -240,27 +240,45 @@ protected:
     /// Hands an entry to the operational-log plug-in; returns its answer, false without one.
     bool addOperationLog(const QString &logName, QList<QVariant> &params);
 
-    SystemErrorModel *errorModel = nullptr; ///< owned, as a child
+    SystemErrorModel *errorModel = nullptr;     ///< owned, as a child
     QPointer<QStandardItemModel> topologyModel; ///< the topology plug-in's, not owned
     QSharedPointer<SystemResourceModelControl> resourceModelControl;
     QMap<QString, QPersistentModelIndex> indexMap; ///< unique key to row
     QString focusStationId;
-    QList<QVariant> stationErrors; ///< value of the property stationErrorList
-    QStringList snoozedDeviceList; ///< ids of nodes whose disconnections are not listed
+    QList<QVariant> stationErrors;  ///< value of the property stationErrorList
+    QStringList snoozedDeviceList;  ///< ids of nodes whose disconnections are not listed
     QTimer stationErrorNumberTimer; ///< delays the recount until the list is quiet
-    QTimer initNodeStatusTimer; ///< delays the walk until the states are all there
-    int cpuThreshold = 0; ///< percent
-    int memoryThreshold = 0; ///< percent
-    int networkThreshold = 0; ///< percent
+    QTimer initNodeStatusTimer;     ///< delays the walk until the states are all there
+    int cpuThreshold = 0;           ///< percent
+    int memoryThreshold = 0;        ///< percent
+    int networkThreshold = 0;       ///< percent
     QSharedPointer<ISystemResourceMonitor> resourceMonitor; ///< samples the client machine
 
 private:
-    QString storageLabel(const QString &stationID, const QString &groupName) const;
+    bool createResourceModelControl();
+    bool createResourceMonitor();
+    void connectTopologySignal(const char *signal, const char *slot);
+    /// Another plug-in's object, or null.
+    QObject *pluginObject(const QString &pluginID) const;
     /// Sends a command of this plug-in; false without a framework.
     bool sendCommand(const QString &command, const QVariant &data, void *context,
                      const QString &target);
-    bool connectTopologySignal(const char *signal, const char *slot);
+    /// Answers checkSupportSystemMonitor() and frees the station id that the context is.
+    void handleSupportResponse(void *context, const QString &resultCode);
+    void handleSetSnoozeResponse(const QVariant &data, bool success);
     void reloadStorageUsage(const QString &stationID);
+
+    /// Completes a record with name and time and lists it.
+    void appendError(QMap<QString, QVariant> record);
+    QModelIndexList errorsOfType(ErrorType type) const;
+    QString storageLabel(const QString &stationID, const QString &groupName) const;
+
+    void monitorStationStatus(const QString &stationID, bool connected);
+    void monitorStationStatusForInit(const QString &stationID, bool connected,
+                                     const QString &triggerDeviceName);
+    void clearStationDisconnected(const QString &stationID);
+    void monitorCameraStatus(const QString &cameraID, bool connected,
+                             const QString &triggerDeviceName);
     void monitorUsage(ErrorType type, const QString &stationID, int usage, int threshold,
                       const QString &subId);
 };

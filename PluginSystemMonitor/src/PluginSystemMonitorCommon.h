@@ -7,8 +7,8 @@
 // They are contracts: two parties compare them byte by byte.
 
 /// The id under which the host files this plug-in; the same as in its metadata.
-inline const QString PSSYSTEMMONITOR_PLUGIN_ID
-    = QStringLiteral("{CA5B02D6-F3E0-4FD7-A55C-17F425D5B415}");
+inline const QString PSSYSTEMMONITOR_PLUGIN_ID =
+    QStringLiteral("{CA5B02D6-F3E0-4FD7-A55C-17F425D5B415}");
 
 /// The short name of this plug-in.
 inline const QString PSSYSTEMMONITOR_PREFIX_NAME = QStringLiteral("SystemMonitorPlugin");
@@ -17,15 +17,15 @@ inline const QString PSSYSTEMMONITOR_PREFIX_NAME = QStringLiteral("SystemMonitor
 inline const QString TOPOLOGY_PLUGIN_ID = QStringLiteral("1AA33B3D0AA047C9A202F1181284D2CD");
 
 /// The plug-in that manages recordings and their storage.
-inline const QString RECORDINGMANAGEMENT_PLUGIN_ID
-    = QStringLiteral("8F33495A224D49ABB8F9E875984A1443");
+inline const QString RECORDINGMANAGEMENT_PLUGIN_ID =
+    QStringLiteral("8F33495A224D49ABB8F9E875984A1443");
 
 /// Method of the recording-management plug-in: report the storage of one station anew.
 inline const QString METHOD_RELOAD_STORAGE_USAGE_INFO = QStringLiteral("reloadStorageUsageInfo");
 
 /// Result code with which the host answers a command that could not be carried out.
-inline const QString FRAMEWORK_INTERNAL_ERROR
-    = QStringLiteral("{2C85B19D-AE6F-45D9-B8FE-DC436FCBEABE}FrameworkInternalError");
+inline const QString FRAMEWORK_INTERNAL_ERROR =
+    QStringLiteral("{2C85B19D-AE6F-45D9-B8FE-DC436FCBEABE}FrameworkInternalError");
 
 namespace PluginSystemMonitorCommon {
 

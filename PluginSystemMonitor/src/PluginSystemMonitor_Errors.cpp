@@ -1,0 +1,245 @@
+#include "PluginSystemMonitor.h"
+
+#include "PluginSystemMonitor_Log.h"
+#include "SystemErrorItemBuilder.h"
+#include "SystemErrorModel.h"
+#include "SystemErrorSortFilterModel.h"
+#include "TopologyRoles.h"
+
+#include <QDateTime>
+
+#include <new>
+
+namespace {
+
+// How long the list must be quiet before the errors of each station are recounted.
+constexpr int RecountDelayMs = 500;
+
+} // namespace
+
+QString getParentStationID(const QString &deviceID)
+{
+    const qsizetype slash = deviceID.lastIndexOf(QLatin1Char('/'));
+    return slash < 0 ? QString() : deviceID.left(slash);
+}
+
+QString PluginSystemMonitor::uniqueId(ErrorType type, const QString &id, const QString &subId) const
+{
+    // One substitution after the other: keys of ids with a "%" marker must stay what they are.
+    if (subId.isEmpty())
+        return QStringLiteral("%1_%2").arg(static_cast<int>(type)).arg(id);
+    return QStringLiteral("%1_%2_%3").arg(static_cast<int>(type)).arg(id).arg(subId);
+}
+
+QString PluginSystemMonitor::getErrorName(ErrorType type) const
+{
+    switch (type) {
+    case HighCpuUsage:
+        return QObject::tr("CPU utilization over %1%").arg(cpuThreshold);
+    case HighMemoryUsage:
+        return QObject::tr("Memory usage over %1%").arg(memoryThreshold);
+    case HighNetworkUsage:
+        return QObject::tr("Network usage over %1%").arg(networkThreshold);
+    case CameraDisconnected:
+        return QObject::tr("Camera disconnected");
+    case StationDisconnected:
+        return QObject::tr("Station disconnected");
+    case VolumeDisconnected:
+        return QObject::tr("Volume disconnected");
+    case InsufficientRecordingDays:
+        return QObject::tr("Insufficient recording days");
+    case Reserved:
+        break;
+    }
+    return QString();
+}
+
+QString PluginSystemMonitor::getTriggerDeviceName(ErrorCategory category,
+                                                  const QString &deviceID) const
+{
+    if (category != CameraCategory)
+        return QStringLiteral("%1: %2").arg(QObject::tr("Station"), findDeviceName(deviceID));
+
+    const QString stationName = findDeviceName(getParentStationID(deviceID));
+    QString cameraName = findDeviceName(deviceID);
+    if (cameraName.isEmpty())
+        cameraName = QStringLiteral("N/A");
+    return QStringLiteral("%1: %2 / %3: %4")
+        .arg(QObject::tr("Station"), stationName, QObject::tr("Camera"), cameraName);
+}
+
+QString PluginSystemMonitor::findDeviceName(const QString &deviceID) const
+{
+    if (!topologyModel)
+        return QString();
+    const QModelIndexList hits =
+        topologyModel->match(topologyModel->index(0, 0), Topology::IdRole, deviceID, 1,
+                             Qt::MatchExactly | Qt::MatchRecursive);
+    if (hits.isEmpty())
+        return QString();
+    return hits.first()
+        .data(Topology::PropertiesRole)
+        .toMap()
+        .value(QStringLiteral("nameRole"))
+        .toString();
+}
+
+bool PluginSystemMonitor::isCameraInTopologyModel(int nodeType) const
+{
+    return nodeType == Topology::CameraNode;
+}
+
+bool PluginSystemMonitor::isStationInTopologyModel(int nodeType) const
+{
+    return nodeType == Topology::StationNode;
+}
+
+bool PluginSystemMonitor::createErrorListModel()
+{
+    errorModel = new (std::nothrow) SystemErrorModel(this);
+    if (!errorModel)
+        return false;
+
+    const auto scheduleRecount = [this] { stationErrorNumberTimer.start(RecountDelayMs); };
+    connect(errorModel, &QAbstractItemModel::rowsInserted, this, scheduleRecount);
+    connect(errorModel, &QAbstractItemModel::rowsRemoved, this, scheduleRecount);
+    return true;
+}
+
+QObject *PluginSystemMonitor::getSystemErrorModel()
+{
+    return errorModel;
+}
+
+QObject *PluginSystemMonitor::getSystemErrorSortFilterModel(QObject *parent)
+{
+    auto *proxy = new SystemErrorSortFilterModel(parent);
+    proxy->setSourceModel(errorModel);
+    return proxy;
+}
+
+void PluginSystemMonitor::appendSystemErrorModel(const QString &uniqueId, QStandardItem *item)
+{
+    errorModel->appendRow(item);
+    indexMap.insert(uniqueId, errorModel->index(errorModel->rowCount() - 1, 0));
+}
+
+void PluginSystemMonitor::RemoveSystemErrorModelRow(const QModelIndex &index)
+{
+    indexMap.remove(index.data(SystemErrorModel::UniqueIDRole).toString());
+    errorModel->removeRows(index.row(), 1, index.parent());
+}
+
+void PluginSystemMonitor::removeErrorFromModel(const QModelIndex &index)
+{
+    RemoveSystemErrorModelRow(index);
+}
+
+void PluginSystemMonitor::removeErrorFromModel(const QString &value, int role, Qt::MatchFlags flags)
+{
+    const QModelIndexList hits = errorModel->match(errorModel->index(0, 0), role, value, -1, flags);
+    const QList<QPersistentModelIndex> rows(hits.cbegin(), hits.cend());
+    for (const QPersistentModelIndex &row : rows) {
+        if (row.isValid())
+            RemoveSystemErrorModelRow(row);
+    }
+}
+
+void PluginSystemMonitor::clearSystemErrorModel()
+{
+    // From the last row, so that the numbers of the rows still to go stay what they are.
+    for (int row = errorModel->rowCount() - 1; row >= 0; --row)
+        RemoveSystemErrorModelRow(errorModel->index(row, 0));
+}
+
+QModelIndex PluginSystemMonitor::existError(ErrorType type, const QString &id, const QString &subId)
+{
+    return indexMap.value(uniqueId(type, id, subId));
+}
+
+void PluginSystemMonitor::addSystemError(const QString &stationID, ErrorType type,
+                                         const QString &deviceID, const QString &triggerDeviceName)
+{
+    if (type == StationDisconnected && snoozedDeviceList.contains(stationID)) {
+        if (isTraced(TraceLog::InfoLevel))
+            LocalTraceOutFuncPluginSystemMonitor("Snooze station disconnection error %s",
+                                                 qPrintable(stationID));
+        return;
+    }
+
+    appendError({
+        {QStringLiteral("id"), uniqueId(type, stationID, deviceID)},
+        {QStringLiteral("stationID"), stationID},
+        {QStringLiteral("deviceID"), deviceID},
+        {QStringLiteral("errorCategory"), static_cast<int>(SystemCategory)},
+        {QStringLiteral("errorType"), static_cast<int>(type)},
+        {QStringLiteral("triggerDeviceName"), triggerDeviceName.isEmpty()
+                                                  ? getTriggerDeviceName(SystemCategory, stationID)
+                                                  : triggerDeviceName},
+    });
+}
+
+void PluginSystemMonitor::addCameraError(const QString &deviceID, ErrorType type,
+                                         const QString &triggerDeviceName)
+{
+    if (type == CameraDisconnected && snoozedDeviceList.contains(deviceID)) {
+        if (isTraced(TraceLog::InfoLevel))
+            LocalTraceOutFuncPluginSystemMonitor("Snooze camera disconnection error %s",
+                                                 qPrintable(deviceID));
+        return;
+    }
+
+    appendError({
+        {QStringLiteral("id"), uniqueId(type, deviceID, QString())},
+        {QStringLiteral("stationID"), getParentStationID(deviceID)},
+        {QStringLiteral("deviceID"), deviceID},
+        {QStringLiteral("errorCategory"), static_cast<int>(CameraCategory)},
+        {QStringLiteral("errorType"), static_cast<int>(type)},
+        {QStringLiteral("triggerDeviceName"), triggerDeviceName.isEmpty()
+                                                  ? getTriggerDeviceName(CameraCategory, deviceID)
+                                                  : triggerDeviceName},
+    });
+}
+
+void PluginSystemMonitor::addStorageError(const QString &stationID, ErrorType type,
+                                          const QString &groupName, const QString &groupID)
+{
+    appendError({
+        {QStringLiteral("id"), uniqueId(type, stationID, groupID)},
+        {QStringLiteral("stationID"), stationID},
+        {QStringLiteral("deviceID"), stationID},
+        {QStringLiteral("errorCategory"), static_cast<int>(SystemCategory)},
+        {QStringLiteral("errorType"), static_cast<int>(type)},
+        {QStringLiteral("triggerDeviceName"), storageLabel(stationID, groupName)},
+    });
+}
+
+void PluginSystemMonitor::appendError(QMap<QString, QVariant> record)
+{
+    const auto type = static_cast<ErrorType>(record.value(QStringLiteral("errorType")).toInt());
+    record.insert(QStringLiteral("errorName"), getErrorName(type));
+    record.insert(QStringLiteral("timestamp"), QDateTime::currentMSecsSinceEpoch());
+    appendSystemErrorModel(record.value(QStringLiteral("id")).toString(),
+                           SystemErrorItemBuilder::create(record));
+}
+
+void PluginSystemMonitor::removeCameraError(const QString &nodeID)
+{
+    removeErrorFromModel(nodeID, SystemErrorModel::DeviceIDRole,
+                         Qt::MatchFixedString | Qt::MatchCaseSensitive | Qt::MatchRecursive);
+}
+
+void PluginSystemMonitor::removeStationError(const QString &nodeID)
+{
+    removeStationFromErrorModel(nodeID);
+}
+
+void PluginSystemMonitor::removeStationFromErrorModel(const QString &stationID)
+{
+    // A prefix, not equality: the errors of the station's cameras and sub-stations go with it.
+    for (int row = errorModel->rowCount() - 1; row >= 0; --row) {
+        const QModelIndex index = errorModel->index(row, 0);
+        if (index.data(SystemErrorModel::StationIDRole).toString().startsWith(stationID))
+            RemoveSystemErrorModelRow(index);
+    }
+}

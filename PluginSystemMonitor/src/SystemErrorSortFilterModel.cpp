@@ -1,0 +1,58 @@
+#include "SystemErrorSortFilterModel.h"
+
+#include "SystemErrorModel.h"
+
+#include <QRegularExpression>
+
+SystemErrorSortFilterModel::SystemErrorSortFilterModel(QObject *parent)
+    : QSortFilterProxyModel(parent)
+{
+    sort(0, Qt::DescendingOrder);
+    setFilterCaseSensitivity(Qt::CaseInsensitive);
+}
+
+void SystemErrorSortFilterModel::setErrorCategory(int errorCategory)
+{
+    categoryMask = errorCategory;
+    invalidateFilter();
+}
+
+void SystemErrorSortFilterModel::setFilterParentStationID(const QString &stationID)
+{
+    filterStationID = stationID;
+    invalidateFilter();
+}
+
+bool SystemErrorSortFilterModel::filterAcceptsRow(int sourceRow,
+                                                  const QModelIndex &sourceParent) const
+{
+    const QModelIndex error = sourceModel()->index(sourceRow, 0, sourceParent);
+    if ((categoryMask & error.data(SystemErrorModel::ErrorCategoryRole).toInt()) <= 0)
+        return false;
+    if (!matchesText(error))
+        return false;
+    return error.data(SystemErrorModel::StationIDRole).toString().contains(filterStationID);
+}
+
+bool SystemErrorSortFilterModel::matchesText(const QModelIndex &error) const
+{
+    const QString pattern = filterRegularExpression().pattern();
+    if (pattern.isEmpty())
+        return true;
+
+    // Only the pattern counts; whichever options came with it are dropped.
+    const QRegularExpression expression(pattern, filterCaseSensitivity() == Qt::CaseInsensitive
+                                                     ? QRegularExpression::CaseInsensitiveOption
+                                                     : QRegularExpression::NoPatternOption);
+    // Matching against an invalid expression would warn, once for every row.
+    if (!expression.isValid())
+        return false;
+    return error.data(SystemErrorModel::ErrorNameRole).toString().contains(expression)
+           || error.data(SystemErrorModel::TriggerDeviceNameRole).toString().contains(expression);
+}
+
+bool SystemErrorSortFilterModel::lessThan(const QModelIndex &left, const QModelIndex &right) const
+{
+    return left.data(SystemErrorModel::TimestampRole).toLongLong()
+           < right.data(SystemErrorModel::TimestampRole).toLongLong();
+}

@@ -1,0 +1,127 @@
+#include "SystemResourceModelControl.h"
+
+#include "PluginSystemMonitorCommon.h"
+#include "PluginSystemMonitor_Log.h"
+
+using namespace PluginSystemMonitorCommon;
+
+SystemResourceModelControl::SystemResourceModelControl(int cpuLimit, int memoryLimit,
+                                                       int networkLimit, QObject *parent)
+    : QObject(parent)
+    , cpuThreshold(cpuLimit)
+    , memoryThreshold(memoryLimit)
+    , networkThreshold(networkLimit)
+{
+    try {
+        resourceModel.reset(new QStandardItemModel(this));
+    } catch (...) {
+        if (isTraced(TraceLog::ErrorLevel))
+            LocalTraceOutFuncPluginSystemMonitor("%s, create QStandardItemModel failed",
+                                                 "SystemResourceModelControl");
+        throw;
+    }
+    resourceModel->setItemRoleNames(SystemResourceModelItem::roleNames());
+    initialModelData();
+}
+
+bool SystemResourceModelControl::initialModelData()
+{
+    resourceModel->clear();
+
+    const char *const caller = "initialModelData";
+    if (!appendRow(SystemResourceModelItem::CpuType, QString(), cpuThreshold, caller)
+        || !appendRow(SystemResourceModelItem::MemoryType, QString(), memoryThreshold, caller)
+        || !appendRow(SystemResourceModelItem::NetworkType, QString(), networkThreshold, caller))
+        return false;
+
+    networkRowsPending = true;
+    return true;
+}
+
+bool SystemResourceModelControl::appendRow(SystemResourceModelItem::Type type,
+                                           const QString &subtitle, int threshold,
+                                           const char *caller)
+{
+    auto *item = SystemResourceModelItem::create(type, getTitle(type), subtitle, threshold);
+    if (!item) {
+        if (isTraced(TraceLog::ErrorLevel))
+            LocalTraceOutFuncPluginSystemMonitor("%s, call SystemResourceModelItem create failed",
+                                                 caller);
+        return false;
+    }
+    resourceModel->appendRow(item);
+    return true;
+}
+
+void SystemResourceModelControl::updateNetworkModalData(QList<QVariant> networkUsageList)
+{
+    if (!networkRowsPending || networkUsageList.isEmpty())
+        return;
+
+    QStandardItem *firstNetworkRow =
+        findItem(SystemResourceModelItem::TypeRole, SystemResourceModelItem::NetworkType,
+                 Qt::MatchStartsWith | Qt::MatchWrap);
+    if (firstNetworkRow) {
+        const QVariantMap usage = networkUsageList.takeFirst().toMap();
+        firstNetworkRow->setData(usage.value(KEY_NETWORK_INTERFACE),
+                                 SystemResourceModelItem::SubtitleRole);
+    }
+    for (const QVariant &entry : std::as_const(networkUsageList)) {
+        appendRow(SystemResourceModelItem::NetworkType,
+                  entry.toMap().value(KEY_NETWORK_INTERFACE).toString(), networkThreshold,
+                  "updateNetworkModalData");
+    }
+    networkRowsPending = false;
+}
+
+void SystemResourceModelControl::updateUsage(int cpuPercentage, int memoryPercentage,
+                                             const QList<QVariant> &networkUsageList)
+{
+    if (resourceModel->rowCount() == 0)
+        initialModelData();
+    updateNetworkModalData(networkUsageList);
+
+    for (int row = 0; row < resourceModel->rowCount(); ++row) {
+        QStandardItem *item = resourceModel->item(row);
+        switch (item->data(SystemResourceModelItem::TypeRole).toInt()) {
+        case SystemResourceModelItem::CpuType:
+            updateUsageList<int>(item, cpuPercentage);
+            break;
+        case SystemResourceModelItem::MemoryType:
+            updateUsageList<int>(item, memoryPercentage);
+            break;
+        default:
+            // Once for every network row, over all interfaces: the histories' pace depends on it.
+            updateNetworkUsage(networkUsageList);
+            break;
+        }
+    }
+}
+
+void SystemResourceModelControl::updateNetworkUsage(const QList<QVariant> &networkUsageList)
+{
+    for (const QVariant &entry : networkUsageList) {
+        const QVariantMap usage = entry.toMap();
+        QStandardItem *item =
+            findItem(SystemResourceModelItem::SubtitleRole,
+                     usage.value(KEY_NETWORK_INTERFACE).toString(), Qt::MatchExactly);
+        if (!item)
+            continue;
+        updateUsageList<double>(item, usage.value(KEY_NETWORK_PERCENTAGE).toDouble());
+        item->setData(usage.value(KEY_NETWORK_BANDWIDTH).toDouble(),
+                      SystemResourceModelItem::BandwidthRole);
+    }
+}
+
+QStandardItem *SystemResourceModelControl::findItem(int role, const QVariant &value,
+                                                    Qt::MatchFlags flags) const
+{
+    const QModelIndexList hits =
+        resourceModel->match(resourceModel->index(0, 0), role, value, 1, flags);
+    return hits.isEmpty() ? nullptr : resourceModel->itemFromIndex(hits.first());
+}
+
+QStandardItemModel *SystemResourceModelControl::model() const
+{
+    return resourceModel.data();
+}

@@ -1,0 +1,66 @@
+#ifndef SYSTEMRESOURCEMODELCONTROL_H
+#define SYSTEMRESOURCEMODELCONTROL_H
+
+#include "SystemResourceModelItem.h"
+
+#include <QList>
+#include <QObject>
+#include <QSharedPointer>
+#include <QStandardItemModel>
+#include <QVariant>
+
+/// Owns and feeds the model of the focused station's resource usage.
+///
+/// Row 0 is the CPU, row 1 the memory, row 2 the first network interface; each further interface
+/// has a row behind.
+class SystemResourceModelControl : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// @param cpuLimit, memoryLimit, networkLimit the thresholds shown on their rows, in percent
+    SystemResourceModelControl(int cpuLimit, int memoryLimit, int networkLimit, QObject *parent);
+
+    /// Starts over: the three base rows with empty histories; the next sample lays out the network
+    /// rows anew. Returns false when memory is short; the rows made so far stay then.
+    bool initialModelData();
+
+    /// Pushes one sample into the rows.
+    ///
+    /// @param cpuPercentage, memoryPercentage whole percents
+    /// @param networkUsageList one map per interface with its name, its usage in percent and its
+    ///                         bandwidth. With N network rows each interface's history moves on by
+    ///                         N entries.
+    void updateUsage(int cpuPercentage, int memoryPercentage,
+                     const QList<QVariant> &networkUsageList);
+
+    /// Gives each interface of the first sample since initialModelData() its row. Later samples
+    /// change no layout.
+    void updateNetworkModalData(QList<QVariant> networkUsageList);
+
+    /// The model; not owned by the caller.
+    QStandardItemModel *model() const;
+
+private:
+    bool appendRow(SystemResourceModelItem::Type type, const QString &subtitle, int threshold,
+                   const char *caller);
+    void updateNetworkUsage(const QList<QVariant> &networkUsageList);
+    QStandardItem *findItem(int role, const QVariant &value, Qt::MatchFlags flags) const;
+
+    bool networkRowsPending = true;
+    int cpuThreshold;
+    int memoryThreshold;
+    int networkThreshold;
+    QSharedPointer<QStandardItemModel> resourceModel;
+};
+
+/// Moves a row's history on by one sample.
+template <typename T> void updateUsageList(QStandardItem *item, T value)
+{
+    QVariantList history = item->data(SystemResourceModelItem::UsageListRole).toList();
+    history.removeFirst();
+    history.append(QVariant(value));
+    item->setData(history, SystemResourceModelItem::UsageListRole);
+}
+
+#endif
