@@ -1,0 +1,8 @@
+#include "FakeRecordingPlugin.h"
+
+#include "PrintedValue.h"
+
+void FakeRecordingPlugin::reloadStorageUsageInfo(const QString &stationID)
+{
+    m_log.add(QStringLiteral("reloadStorageUsageInfo ") + printedValue(stationID));
+}
