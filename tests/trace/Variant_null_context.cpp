@@ -1,0 +1,14 @@
+// A library whose record has no context.
+#include "RecordingTrace.h"
+
+using namespace RecordingTrace;
+
+TEST_TRACE_EXPORT void LogTrace_GetGlobalObject(int argument, void **record)
+{
+    static Record theRecord = [] {
+        Record result = completeRecord();
+        result[ContextWord] = journal().context = nullptr;
+        return result;
+    }();
+    handOut(argument, &theRecord, record);
+}
