@@ -1,6 +1,23 @@
-#pragma once
+#ifndef ISYSTEMRESOURCEMONITOR_H
+#define ISYSTEMRESOURCEMONITOR_H
+
+#include "SystemResourceMonitorCommon.h"
+
 #include <QObject>
-#include <QList>
-namespace SystemResourceMonitorCommon { struct NetworkUsage { QString interfaceName; double percentage=0; double bandwidth=0; }; }
-class ISystemResourceMonitor : public QObject { Q_OBJECT
-Q_SIGNALS: void resourceChanged(int cpuPercentage, int memoryPercentage, QList<SystemResourceMonitorCommon::NetworkUsage> networkUsageList); };
+
+/// Announces the resource usage of a machine.
+class ISystemResourceMonitor : public QObject
+{
+    Q_OBJECT
+
+Q_SIGNALS:
+    /// A sample was taken. Goes out for every sample, whether or not a value moved.
+    ///
+    /// @param cpuPercentage    CPU load in whole percents; -100 when it could not be measured
+    /// @param memoryPercentage memory in use in whole percents; 0 when it could not be measured
+    /// @param networkUsageList one entry per network interface
+    void resourceChanged(int cpuPercentage, int memoryPercentage,
+                         QList<SystemResourceMonitorCommon::NetworkUsage> networkUsageList);
+};
+
+#endif
