@@ -60,6 +60,8 @@ public:
     void forgetPlugin(const QString &pluginID) { m_plugins.remove(pluginID); }
 
     const QList<SentCommand> &commands() const { return m_commands; }
+    /// Drops what commands() holds, and with it its share of their texts.
+    void forgetCommands() { m_commands.clear(); }
     const QList<RequestedConnection> &connections() const { return m_connections; }
 
     /// Whether every call so far came with this host's handle.

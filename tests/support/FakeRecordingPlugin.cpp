@@ -5,4 +5,6 @@
 void FakeRecordingPlugin::reloadStorageUsageInfo(const QString &stationID)
 {
     m_log.add(QStringLiteral("reloadStorageUsageInfo ") + printedValue(stationID));
+    if (onReload)
+        onReload();
 }

@@ -5,6 +5,8 @@
 
 #include <QObject>
 
+#include <functional>
+
 /// The plug-in that manages recordings; logs what it is asked.
 class FakeRecordingPlugin : public QObject
 {
@@ -15,8 +17,10 @@ public:
         : m_log(log)
     { }
 
-    /// Logs `reloadStorageUsageInfo "st1"`.
+    /// Logs `reloadStorageUsageInfo "st1"`, then does what the test wants.
     Q_INVOKABLE void reloadStorageUsageInfo(const QString &stationID);
+
+    std::function<void()> onReload; ///< called in the course of every reload; may be empty
 
 private:
     CallLog &m_log;
