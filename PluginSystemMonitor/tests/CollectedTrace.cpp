@@ -2,8 +2,6 @@
 
 #include "PluginSystemMonitor_Log.h"
 
-#include <QFileInfo>
-
 #include <utility>
 
 namespace {
@@ -11,6 +9,12 @@ namespace {
 int levelOf(int moduleAndLevel)
 {
     return moduleAndLevel & 0xff;
+}
+
+QString withoutPath(const char *file)
+{
+    const QString path = QString::fromUtf8(file);
+    return path.mid(path.lastIndexOf(u'/') + 1);
 }
 
 } // namespace
@@ -39,8 +43,7 @@ int CollectedTrace::isSuppressed(void *context, int moduleAndLevel, int zero, co
                                  int line)
 {
     auto *self = static_cast<CollectedTrace *>(context);
-    const QString fileName = QFileInfo(QString::fromUtf8(file)).fileName();
-    self->m_questions.append({moduleAndLevel, zero, fileName, line});
+    self->m_questions.append({moduleAndLevel, zero, withoutPath(file), line});
     return levelOf(moduleAndLevel) > self->m_highestLevel ? 1 : 0;
 }
 
