@@ -3,8 +3,6 @@
 #include "PluginSystemMonitorCommon.h"
 #include "PluginSystemMonitor_Log.h"
 
-#include <memory>
-
 using namespace PluginSystemMonitorCommon;
 
 namespace {

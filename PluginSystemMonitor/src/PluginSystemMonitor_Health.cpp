@@ -118,9 +118,6 @@ void PluginSystemMonitor::initNodeStatusError()
 
 void PluginSystemMonitor::recursiveAppendStatusError(const QModelIndex &parent)
 {
-    if (!parent.isValid())
-        return;
-
     for (int row = 0; row < topologyModel->rowCount(parent); ++row) {
         const QModelIndex node = topologyModel->index(row, 0, parent);
         const int type = node.data(Topology::NodeTypeRole).toInt();

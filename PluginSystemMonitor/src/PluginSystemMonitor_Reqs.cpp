@@ -28,13 +28,11 @@ bool PluginSystemMonitor::setSnooze(const QString &nodeID, qlonglong timestamp, 
 
 bool PluginSystemMonitor::checkSupportSystemMonitor(const QString &stationId)
 {
-    auto context = std::make_unique<QString>(stationId);
-    const bool accepted =
-        sendCommand(QStringLiteral("isSupportSystemMonitor"), QVariant(), context.get(), stationId);
-    // An accepted question comes back with its answer and is freed then; a refused one never does.
-    if (accepted)
-        static_cast<void>(context.release());
-    return accepted;
+    if (!m_framework)
+        return false;
+    // From here on the context is the answer's to free, and a host may answer what it refused.
+    return sendCommand(QStringLiteral("isSupportSystemMonitor"), QVariant(), new QString(stationId),
+                       stationId);
 }
 
 void PluginSystemMonitor::handleSupportResponse(void *context, const QString &resultCode)
