@@ -4,6 +4,7 @@
 
 #include <mach/mach.h>
 
+#include <iterator>
 #include <numeric>
 
 float GetCPULoad()

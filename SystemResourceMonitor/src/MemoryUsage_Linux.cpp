@@ -8,11 +8,15 @@ namespace {
 
 using Bytes = std::optional<unsigned long long>;
 
-Bytes bytesIn(const QByteArrayList &words)
+// What the line of a name says, or the given figure when there is no such line.
+Bytes bytesOf(const ProcFile &info, QByteArrayView name, Bytes otherwise = std::nullopt)
 {
-    if (words.size() != 2 || words[1] != "kB")
+    const auto words = info.wordsAfter(name);
+    if (!words)
+        return otherwise;
+    if (words->size() != 2 || words->at(1) != "kB")
         return std::nullopt;
-    const auto kibibytes = ProcFile::number(words[0]);
+    const auto kibibytes = ProcFile::number(words->at(0));
     return kibibytes ? Bytes(*kibibytes * 1024) : std::nullopt;
 }
 
@@ -27,24 +31,6 @@ Bytes sum(std::initializer_list<Bytes> terms)
     return total;
 }
 
-class MemInfo
-{
-public:
-    explicit MemInfo(const QString &procRoot)
-        : m_file(procRoot + QStringLiteral("/meminfo"))
-    { }
-
-    // What the line of a name says, or the given figure when there is no such line.
-    Bytes bytes(QByteArrayView name, Bytes otherwise = std::nullopt) const
-    {
-        const auto words = m_file.wordsAfter(name);
-        return words ? bytesIn(*words) : otherwise;
-    }
-
-private:
-    ProcFile m_file;
-};
-
 } // namespace
 
 MemoryUsage_Linux::MemoryUsage_Linux(const QString &procRoot)
@@ -53,13 +39,13 @@ MemoryUsage_Linux::MemoryUsage_Linux(const QString &procRoot)
 
 double MemoryUsage_Linux::getPercentage()
 {
-    // Older kernels do not tell of the memory of single processors and of compressed memory.
-    const MemInfo info(m_procRoot);
-    const Bytes physical = info.bytes("MemTotal:");
-    const Bytes application = sum({info.bytes("AnonPages:"), info.bytes("Shmem:")});
-    const Bytes wired = sum({info.bytes("SUnreclaim:"), info.bytes("KernelStack:"),
-                             info.bytes("PageTables:"), info.bytes("Percpu:", 0)});
-    const Bytes compressed = info.bytes("Zswap:", 0);
+    const ProcFile info(m_procRoot + QStringLiteral("/meminfo"));
+    const Bytes physical = bytesOf(info, "MemTotal:");
+    const Bytes application = sum({bytesOf(info, "AnonPages:"), bytesOf(info, "Shmem:")});
+    // Older kernels tell neither what single processors hold nor what is kept compressed.
+    const Bytes wired = sum({bytesOf(info, "SUnreclaim:"), bytesOf(info, "KernelStack:"),
+                             bytesOf(info, "PageTables:"), bytesOf(info, "Percpu:", 0)});
+    const Bytes compressed = bytesOf(info, "Zswap:", 0);
     if (!physical || *physical == 0 || !application || !wired || !compressed)
         return 0.0;
 
