@@ -109,9 +109,9 @@ void tst_CpuLoad::totalTicksThatStepBackWrap()
 
 void tst_CpuLoad::arithmeticIsInSinglePrecision()
 {
-    // 2^24 + 1 is the first whole number that single precision does not hold.
-    // A comparison that allows for rounding would miss it.
-    QVERIFY(CalculateCPULoad(16777217, 33554432) == 0.5F);
+    // From 2^24 on, single precision does not hold every whole number. A comparison that allows
+    // for rounding would miss the difference.
+    QVERIFY(CalculateCPULoad(16777217, 33554435) == 1.0F - 16777216.0F / 33554436.0F);
 }
 
 QTEST_APPLESS_MAIN(tst_CpuLoad)

@@ -69,8 +69,9 @@ private:
         return m_observer.journal() ? ofJournal(*m_observer.journal()) : 0;
     }
 
-    TestTraceLibrary m_observer;
+    // Opened before the observer, which would otherwise settle how the library is bound.
     TraceLog::TraceLibrary m_library;
+    TestTraceLibrary m_observer;
     TraceLog::TraceRecord *m_record = nullptr;
     int m_moduleId = NoId;
     Expectation m_expected = {};
