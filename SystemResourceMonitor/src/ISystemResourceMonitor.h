@@ -3,6 +3,7 @@
 
 #include "SystemResourceMonitorCommon.h"
 
+#include <QList>
 #include <QObject>
 
 /// Announces the resource usage of a machine.

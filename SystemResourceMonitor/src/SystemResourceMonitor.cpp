@@ -14,6 +14,13 @@ namespace {
 
 constexpr int SamplingIntervalMs = 1000;
 
+// Makes the types known by name, for queued connections and variants.
+void registerSignalTypes()
+{
+    qRegisterMetaType<NetworkUsage>();
+    qRegisterMetaType<QList<NetworkUsage>>();
+}
+
 QList<NetworkUsage> sampleNetwork(INetworkUsage &sampler)
 {
     QList<NetworkUsage> usages;
@@ -46,7 +53,7 @@ SystemResourceMonitor::SystemResourceMonitor()
 SystemResourceMonitor::SystemResourceMonitor(const SamplerFactory &samplers)
 {
     try {
-        SystemResourceMonitorCommon::registerMetaTypes();
+        registerSignalTypes();
         m_cpuUsage = samplers.createCpuUsage();
         m_memoryUsage = samplers.createMemoryUsage();
         m_networkUsage = samplers.createNetworkUsage();

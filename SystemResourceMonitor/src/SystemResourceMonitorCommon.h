@@ -1,7 +1,6 @@
 #ifndef SYSTEMRESOURCEMONITORCOMMON_H
 #define SYSTEMRESOURCEMONITORCOMMON_H
 
-#include <QList>
 #include <QMetaType>
 #include <QString>
 
@@ -14,14 +13,6 @@ struct NetworkUsage
     double percentage;     ///< usage of the interface in percent
     double bandwidth;      ///< in whatever unit the network sampler measures
 };
-
-/// Makes NetworkUsage and its list known to the meta-type system by name, for queued connections
-/// and variants. May be called any number of times, on any thread.
-inline void registerMetaTypes()
-{
-    qRegisterMetaType<NetworkUsage>();
-    qRegisterMetaType<QList<NetworkUsage>>();
-}
 
 } // namespace SystemResourceMonitorCommon
 
