@@ -41,6 +41,7 @@ private Q_SLOTS:
     void removingACameraWithoutIdTakesErrorsWithoutDevice();
     void removingAStationTakesItsCamerasAndLongerIds();
     void removingAStationIsCaseSensitive();
+    void removingAStationWithoutIdTakesEverything_data();
     void removingAStationWithoutIdTakesEverything();
     void cameraWithoutStationIsReachedByNoStation();
     void removingFromAnEmptyListDoesNothing();
@@ -415,13 +416,23 @@ void tst_ErrorList::removingAStationIsCaseSensitive()
     QCOMPARE(host.errorKeys(), QStringList({u"4_st1"_s}));
 }
 
+void tst_ErrorList::removingAStationWithoutIdTakesEverything_data()
+{
+    QTest::addColumn<QString>("id");
+    QTest::newRow("null") << QString();
+    QTest::newRow("empty") << u""_s;
+}
+
 void tst_ErrorList::removingAStationWithoutIdTakesEverything()
 {
+    QFETCH(const QString, id);
     TestHost host;
     loseStation(host, u"st1"_s);
     loseCamera(host, u"st2/cam1"_s);
     loseCamera(host, u"stray"_s);
-    Q_EMIT host.topology.stationRemoved(QString());
+    host.invoke("monitorCPUUsage", QString(), 100);
+    host.invoke("monitorMemoryUsage", u""_s, 100);
+    Q_EMIT host.topology.stationRemoved(id);
     QCOMPARE(host.errorKeys(), QStringList());
 }
 
