@@ -35,6 +35,8 @@ private Q_SLOTS:
     void rowsAreAppendedAndKeepTheirOrder();
     void errorsAreFoundByKeyAfterEarlierRowsLeft();
     void equalKeysAreTheSameError();
+    void keyIsFilledOnePieceAfterTheOther_data();
+    void keyIsFilledOnePieceAfterTheOther();
     void removingACameraTakesAllErrorsOfThatDevice();
     void removingACameraComparesTheWholeId_data();
     void removingACameraComparesTheWholeId();
@@ -348,6 +350,35 @@ void tst_ErrorList::equalKeysAreTheSameError()
     QCOMPARE(host.errorKeys(), QStringList({u"2_a_b_c"_s}));
     QCOMPARE(host.error(0, ErrorRole::StationID).toString(), u"a_b"_s);
     host.invoke("monitorNetworkUsage", u"a"_s, 40, u"b_c"_s);
+    QCOMPARE(host.errorKeys(), QStringList());
+}
+
+// A marker in an id takes what was meant for a later place.
+void tst_ErrorList::keyIsFilledOnePieceAfterTheOther_data()
+{
+    QTest::addColumn<QString>("stationID");
+    QTest::addColumn<QString>("interfaceName");
+    QTest::addColumn<QString>("key");
+    QTest::newRow("no marker") << u"st1"_s << u"en0"_s << u"2_st1_en0"_s;
+    QTest::newRow("third") << u"%3"_s << u"en0"_s << u"2_en0_en0"_s;
+    QTest::newRow("second") << u"%2"_s << u"en0"_s << u"2_en0_%3"_s;
+    QTest::newRow("first") << u"a%1b%1"_s << u"en0"_s << u"2_aen0ben0_%3"_s;
+    QTest::newRow("localized") << u"%L1"_s << u"en0"_s << u"2_en0_%3"_s;
+    QTest::newRow("two digits") << u"%10"_s << u"en0"_s << u"2_%10_en0"_s;
+    QTest::newRow("no interface") << u"%1%2%3"_s << QString() << u"2_%1%2%3"_s;
+    QTest::newRow("in the interface") << u"st1"_s << u"%1%3"_s << u"2_st1_%1%3"_s;
+    QTest::newRow("percent sign alone") << u"50%"_s << u"%"_s << u"2_50%_%"_s;
+}
+
+void tst_ErrorList::keyIsFilledOnePieceAfterTheOther()
+{
+    QFETCH(const QString, stationID);
+    QFETCH(const QString, interfaceName);
+    QFETCH(const QString, key);
+    TestHost host;
+    host.invoke("monitorNetworkUsage", stationID, 100, interfaceName);
+    QCOMPARE(host.errorKeys(), QStringList({key}));
+    host.invoke("monitorNetworkUsage", stationID, 0, interfaceName);
     QCOMPARE(host.errorKeys(), QStringList());
 }
 
