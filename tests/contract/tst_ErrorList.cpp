@@ -35,12 +35,15 @@ private Q_SLOTS:
     void rowsAreAppendedAndKeepTheirOrder();
     void errorsAreFoundByKeyAfterEarlierRowsLeft();
     void equalKeysAreTheSameError();
+    void keyIsFilledOnePieceAfterTheOther_data();
+    void keyIsFilledOnePieceAfterTheOther();
     void removingACameraTakesAllErrorsOfThatDevice();
     void removingACameraComparesTheWholeId_data();
     void removingACameraComparesTheWholeId();
     void removingACameraWithoutIdTakesErrorsWithoutDevice();
     void removingAStationTakesItsCamerasAndLongerIds();
     void removingAStationIsCaseSensitive();
+    void removingAStationWithoutIdTakesEverything_data();
     void removingAStationWithoutIdTakesEverything();
     void cameraWithoutStationIsReachedByNoStation();
     void removingFromAnEmptyListDoesNothing();
@@ -350,6 +353,35 @@ void tst_ErrorList::equalKeysAreTheSameError()
     QCOMPARE(host.errorKeys(), QStringList());
 }
 
+// A marker in an id takes what was meant for a later place.
+void tst_ErrorList::keyIsFilledOnePieceAfterTheOther_data()
+{
+    QTest::addColumn<QString>("stationID");
+    QTest::addColumn<QString>("interfaceName");
+    QTest::addColumn<QString>("key");
+    QTest::newRow("no marker") << u"st1"_s << u"en0"_s << u"2_st1_en0"_s;
+    QTest::newRow("third") << u"%3"_s << u"en0"_s << u"2_en0_en0"_s;
+    QTest::newRow("second") << u"%2"_s << u"en0"_s << u"2_en0_%3"_s;
+    QTest::newRow("first") << u"a%1b%1"_s << u"en0"_s << u"2_aen0ben0_%3"_s;
+    QTest::newRow("localized") << u"%L1"_s << u"en0"_s << u"2_en0_%3"_s;
+    QTest::newRow("two digits") << u"%10"_s << u"en0"_s << u"2_%10_en0"_s;
+    QTest::newRow("no interface") << u"%1%2%3"_s << QString() << u"2_%1%2%3"_s;
+    QTest::newRow("in the interface") << u"st1"_s << u"%1%3"_s << u"2_st1_%1%3"_s;
+    QTest::newRow("percent sign alone") << u"50%"_s << u"%"_s << u"2_50%_%"_s;
+}
+
+void tst_ErrorList::keyIsFilledOnePieceAfterTheOther()
+{
+    QFETCH(const QString, stationID);
+    QFETCH(const QString, interfaceName);
+    QFETCH(const QString, key);
+    TestHost host;
+    host.invoke("monitorNetworkUsage", stationID, 100, interfaceName);
+    QCOMPARE(host.errorKeys(), QStringList({key}));
+    host.invoke("monitorNetworkUsage", stationID, 0, interfaceName);
+    QCOMPARE(host.errorKeys(), QStringList());
+}
+
 void tst_ErrorList::removingACameraTakesAllErrorsOfThatDevice()
 {
     TestHost host;
@@ -415,13 +447,23 @@ void tst_ErrorList::removingAStationIsCaseSensitive()
     QCOMPARE(host.errorKeys(), QStringList({u"4_st1"_s}));
 }
 
+void tst_ErrorList::removingAStationWithoutIdTakesEverything_data()
+{
+    QTest::addColumn<QString>("id");
+    QTest::newRow("null") << QString();
+    QTest::newRow("empty") << u""_s;
+}
+
 void tst_ErrorList::removingAStationWithoutIdTakesEverything()
 {
+    QFETCH(const QString, id);
     TestHost host;
     loseStation(host, u"st1"_s);
     loseCamera(host, u"st2/cam1"_s);
     loseCamera(host, u"stray"_s);
-    Q_EMIT host.topology.stationRemoved(QString());
+    host.invoke("monitorCPUUsage", QString(), 100);
+    host.invoke("monitorMemoryUsage", u""_s, 100);
+    Q_EMIT host.topology.stationRemoved(id);
     QCOMPARE(host.errorKeys(), QStringList());
 }
 

@@ -22,11 +22,12 @@ struct Expectation
 
 // "missing" is no library at all.
 const std::map<std::string, Expectation> expectations{
-    {"missing", {0, 0, false, false}},        {"complete", {2, 2, true, true}},
-    {"no_entry_point", {0, 0, false, false}}, {"null_record", {2, 0, false, false}},
-    {"null_context", {2, 2, false, false}},   {"no_register_function", {2, 0, true, true}},
-    {"no_level_test", {2, 2, false, false}},  {"no_output_function", {2, 2, true, false}},
-    {"suppressing", {2, 2, true, false}},     {"late_module_id", {2, 2, true, true}},
+    {"missing", {0, 0, false, false}},           {"complete", {2, 2, true, true}},
+    {"no_entry_point", {0, 0, false, false}},    {"null_record", {2, 0, false, false}},
+    {"null_context", {2, 2, false, false}},      {"no_register_function", {2, 0, true, true}},
+    {"no_level_test", {2, 2, false, false}},     {"no_output_function", {2, 2, true, false}},
+    {"suppressing", {2, 2, true, false}},        {"late_module_id", {2, 2, true, true}},
+    {"unresolved_function", {2, 2, true, true}},
 };
 
 // Reaches every place that writes a message, and returns what is listed then.

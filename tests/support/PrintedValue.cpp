@@ -48,7 +48,8 @@ QString printedHistory(const QVariantList &history)
     return parts.join(QStringLiteral(", "));
 }
 
-QStringList printedRows(const QAbstractItemModel &model, QString (*printed)(const QModelIndex &))
+template <typename Printer>
+QStringList printedRows(const QAbstractItemModel &model, Printer printed)
 {
     QStringList rows;
     for (int row = 0; row < model.rowCount(); ++row)
@@ -85,21 +86,26 @@ QString printedValue(const QVariant &value)
     }
 }
 
-QString printedError(const QModelIndex &index)
+QString printedError(const ErrorValues &error)
 {
     return QStringLiteral("%1 station %2 device %3 type %4 category %5 name %6 from %7")
-        .arg(printedValue(index.data(ErrorRole::UniqueID)),
-             printedValue(index.data(ErrorRole::StationID)),
-             printedValue(index.data(ErrorRole::DeviceID)),
-             printedValue(index.data(ErrorRole::Type)),
-             printedValue(index.data(ErrorRole::Category)),
-             printedValue(index.data(ErrorRole::Name)),
-             printedValue(index.data(ErrorRole::TriggerDeviceName)));
+        .arg(printedValue(error.key), printedValue(error.stationID), printedValue(error.deviceID),
+             printedValue(error.type), printedValue(error.category), printedValue(error.name),
+             printedValue(error.origin));
+}
+
+QString printedError(const QModelIndex &index)
+{
+    return printedError(ErrorValues{index.data(ErrorRole::UniqueID),
+                                    index.data(ErrorRole::StationID),
+                                    index.data(ErrorRole::DeviceID), index.data(ErrorRole::Type),
+                                    index.data(ErrorRole::Category), index.data(ErrorRole::Name),
+                                    index.data(ErrorRole::TriggerDeviceName)});
 }
 
 QStringList printedErrors(const QAbstractItemModel &errors)
 {
-    return printedRows(errors, printedError);
+    return printedRows(errors, [](const QModelIndex &index) { return printedError(index); });
 }
 
 QStringList errorKeys(const QAbstractItemModel &errors)

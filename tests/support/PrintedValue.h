@@ -13,7 +13,20 @@
 /// invalid variant is `invalid`.
 QString printedValue(const QVariant &value);
 
+/// What a row of the error list holds, apart from its time.
+struct ErrorValues
+{
+    QVariant key;
+    QVariant stationID;
+    QVariant deviceID;
+    QVariant type;
+    QVariant category;
+    QVariant name;
+    QVariant origin; ///< the name of the device that triggered it
+};
+
 /// A row of the error list as one text: everything but the time.
+QString printedError(const ErrorValues &error);
 QString printedError(const QModelIndex &index);
 
 /// Every row of the error list, or of a proxy over it, in the order shown.
