@@ -1,0 +1,45 @@
+import QtQuick
+
+/// Whether the server is there, by shape, word and colour, and since when.
+Row {
+    id: state
+
+    property bool connected: false
+    /// A Date, or undefined when nobody knows.
+    property var since
+
+    readonly property string word: connected ? qsTr("Connected")
+                                             : qsTr("Server connection lost")
+    readonly property string detail: {
+        if (!since)
+            return connected ? "" : qsTr("Nothing is known about the site");
+        const time = Format.recentTime(since.getTime(), Clock.now);
+        const age = Format.age(since.getTime(), Clock.now);
+        return connected ? qsTr("since %1").arg(time)
+                         : qsTr("Nothing is known since %1 (%2)", "time and age").arg(time).arg(age);
+    }
+
+    spacing: Theme.gap
+    Accessible.role: Accessible.StaticText
+    Accessible.name: word
+    Accessible.description: detail
+
+    StateMark {
+        anchors.verticalCenter: parent.verticalCenter
+        size: Theme.em(1.5)
+        status: state.connected ? "good" : "critical"
+    }
+
+    PlainLabel {
+        anchors.verticalCenter: parent.verticalCenter
+        text: state.word
+        color: Theme.stateColor(state.connected ? "good" : "critical")
+        font.weight: Font.DemiBold
+    }
+
+    PlainLabel {
+        anchors.verticalCenter: parent.verticalCenter
+        text: state.detail
+        color: state.connected ? Theme.mutedText : Theme.text
+    }
+}
