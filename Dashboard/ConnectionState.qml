@@ -1,7 +1,8 @@
 import QtQuick
+import QtQuick.Layouts
 
 /// Whether the server is there, by shape, word and colour, and since when.
-Row {
+RowLayout {
     id: state
 
     property bool connected: false
@@ -25,20 +26,18 @@ Row {
     Accessible.description: detail
 
     StateMark {
-        anchors.verticalCenter: parent.verticalCenter
         size: Theme.em(1.5)
         status: state.connected ? "good" : "critical"
     }
 
     PlainLabel {
-        anchors.verticalCenter: parent.verticalCenter
         text: state.word
         color: Theme.stateColor(state.connected ? "good" : "critical")
         font.weight: Font.DemiBold
     }
 
     PlainLabel {
-        anchors.verticalCenter: parent.verticalCenter
+        Layout.fillWidth: true
         text: state.detail
         color: state.connected ? Theme.mutedText : Theme.text
     }

@@ -28,15 +28,13 @@ Rectangle {
         }
 
         ConnectionState {
+            Layout.fillWidth: true
             connected: header.serverConnected
             since: header.connectionSince
         }
 
-        Item {
-            Layout.fillWidth: true
-        }
-
         PlainLabel {
+            visible: header.width >= Theme.em(64)
             text: Format.dateTime(Clock.now)
             color: Theme.mutedText
             Accessible.role: Accessible.StaticText

@@ -1,8 +1,10 @@
 import QtQuick
-import QtQuick.Layouts
 
 /// The health dashboard of a site, shown from the plug-in's surface and from what the host knows
 /// about the site.
+///
+/// Keys: Ctrl+F goes to the text filter, Esc clears the filters; see also ErrorTable and
+/// StationsPane.
 FocusScope {
     id: root
 
@@ -15,11 +17,18 @@ FocusScope {
     /// List of {stationID, name, parentID, connected}; parentID is empty for a top-level station.
     property var stations: []
 
-    // Its members are known only at run time.
+    // What it offers is known only at run time.
     readonly property var surface: plugin
 
     anchors.fill: parent
     focus: true
+
+    Keys.onEscapePressed: overview.clearFilters()
+
+    Shortcut {
+        sequence: "Ctrl+F"
+        onActivated: overview.showTextFilter()
+    }
 
     StationDirectory {
         id: directory
@@ -33,25 +42,42 @@ FocusScope {
         color: Theme.window
     }
 
-    ColumnLayout {
-        anchors.fill: parent
-        spacing: Theme.gap
+    DashboardHeader {
+        id: header
 
-        DashboardHeader {
-            Layout.fillWidth: true
-            siteName: root.siteName
-            serverConnected: root.serverConnected
-            connectionSince: root.connectionSince
-        }
+        width: parent.width
+        siteName: root.siteName
+        serverConnected: root.serverConnected
+        connectionSince: root.connectionSince
+    }
 
-        ErrorsPane {
-            Layout.fillWidth: true
-            Layout.fillHeight: true
-            Layout.margins: Theme.gap
-            surface: root.surface
-            directory: directory
-            serverConnected: root.serverConnected
-            connectionSince: root.connectionSince
-        }
+    CapacityBanner {
+        id: banner
+
+        anchors.top: header.bottom
+        width: parent.width
+        surface: root.surface
+    }
+
+    OverviewPage {
+        id: overview
+
+        anchors.top: banner.bottom
+        anchors.bottom: parent.bottom
+        width: parent.width
+        focus: true
+        surface: root.surface
+        directory: directory
+        serverConnected: root.serverConnected
+        connectionSince: root.connectionSince
+        onNoticed: (status, text) => notice.show(status, text)
+    }
+
+    NoticeBar {
+        id: notice
+
+        anchors.horizontalCenter: parent.horizontalCenter
+        anchors.bottom: parent.bottom
+        anchors.bottomMargin: Theme.em(1.5)
     }
 }

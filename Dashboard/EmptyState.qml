@@ -6,6 +6,8 @@ Column {
 
     /// A state of StateMark.
     property alias status: mark.status
+    /// Shown instead of the state's mark when it names a drawing of Icons.
+    property string glyph
     property string title
     property string detail
 
@@ -17,8 +19,17 @@ Column {
     StateMark {
         id: mark
 
+        visible: state.glyph === ""
         anchors.horizontalCenter: parent.horizontalCenter
         size: Theme.em(4)
+    }
+
+    Glyph {
+        anchors.horizontalCenter: parent.horizontalCenter
+        visible: state.glyph !== ""
+        size: Theme.em(4)
+        name: state.glyph
+        color: Theme.mutedText
     }
 
     Text {

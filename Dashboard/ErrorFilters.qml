@@ -23,7 +23,10 @@ QtObject {
         text = "";
     }
 
+    // A fresh proxy shows everything, and each setting would make it go through all its rows again.
     onProxyChanged: {
+        if (!active)
+            return;
         applyCategories();
         applyStation();
         applyText();

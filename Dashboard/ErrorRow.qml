@@ -18,6 +18,7 @@ Item {
     required property ErrorColumns columns
     required property StationDirectory directory
     required property bool selected
+    /// Whether the keyboard is on this row.
     required property bool current
 
     readonly property int kind: errorTypeRole ?? -1
@@ -31,15 +32,21 @@ Item {
     readonly property string time: hasTime ? Format.recentTime(timestampRole, Clock.now) : ""
     readonly property color kindColor: Theme.stateColor(ErrorKinds.severity(kind))
 
+    /// Whether a text does not fit.
+    readonly property bool truncated: kindLabel.truncated || deviceLabel.truncated
+                                      || stationLabel.truncated
+    readonly property string fullText: (errorNameRole ?? "") + "\n" + (triggerDeviceNameRole ?? "")
+
     signal pressed(event: var)
     signal doubleClicked
     signal checkToggled
+    signal hoverChanged(hovered: bool)
 
     height: columns.stacked ? Theme.em(3.4) : Theme.rowHeight
 
     Accessible.role: Accessible.ListItem
-    Accessible.name: qsTr("%1, %2, %3, since %4", "kind, device, station, time").arg(errorNameRole ?? "")
-                     .arg(deviceName).arg(stationName).arg(time)
+    Accessible.name: Format.fill(qsTr("%1, %2, %3, since %4", "kind, device, station, time"),
+                                 errorNameRole, deviceName, stationName, time)
     Accessible.selectable: true
     Accessible.selected: selected
     Accessible.focusable: true
@@ -66,6 +73,7 @@ Item {
         acceptedButtons: Qt.LeftButton | Qt.RightButton
         onPressed: event => row.pressed(event)
         onDoubleClicked: row.doubleClicked()
+        onContainsMouseChanged: row.hoverChanged(containsMouse)
     }
 
     Rectangle {
@@ -106,15 +114,18 @@ Item {
     }
 
     PlainLabel {
+        id: kindLabel
+
         anchors.verticalCenter: parent.verticalCenter
         x: icon.x + icon.width + Theme.gap
         width: row.columns.kindX + row.columns.kindWidth - x - Theme.gap
         text: row.errorNameRole ?? ""
         color: row.kindColor
-        font.weight: Font.DemiBold
     }
 
     PlainLabel {
+        id: deviceLabel
+
         x: row.columns.deviceX
         y: row.columns.stacked ? Theme.em(0.35) : 0
         width: row.columns.deviceWidth
@@ -123,6 +134,8 @@ Item {
     }
 
     PlainLabel {
+        id: stationLabel
+
         x: row.columns.stationX
         y: row.columns.stacked ? Theme.em(1.7) : 0
         width: row.columns.stationWidth
@@ -148,5 +161,9 @@ Item {
         horizontalAlignment: Text.AlignRight
         text: row.time
         color: Theme.mutedText
+    }
+
+    RowRing {
+        visible: row.current
     }
 }

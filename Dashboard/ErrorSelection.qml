@@ -9,54 +9,58 @@ QtObject {
     /// The proxy whose rows are selected from, or null.
     property var proxy: null
 
-    /// Unique id to error kind. Replaced as a whole never; bind to revision and ask contains().
-    property var kinds: ({})
-    property int revision: 0
     property int count: 0
     /// How many of them the server can snooze.
     property int snoozableCount: 0
+    /// Counts the changes; whatever depends on contains() is bound to it.
+    property int revision: 0
     /// Where a range starts that Shift extends.
     property string anchor
 
+    // Thousands may come and go at once, so these change in place and publish() tells of it once.
+    // An id that left stays as a key with the value false, which costs less than to delete it.
+    property var ids: ({})
+    property var tally: ({ "count": 0, "snoozable": 0 })
+
     function contains(uniqueID: string): bool {
-        return revision >= 0 && uniqueID in kinds;
+        return revision >= 0 && ids[uniqueID] === true;
     }
 
     function clear() {
         if (count > 0)
-            replace(0, -1);
+            selectRange(0, -1);
     }
 
     function selectOnly(row: int) {
-        replace(row, row);
+        selectRange(row, row);
         anchor = idAt(row);
     }
 
     function toggle(row: int) {
-        const uniqueID = idAt(row);
-        if (uniqueID in kinds)
-            drop(uniqueID);
+        anchor = idAt(row);
+        if (ids[anchor] === true)
+            drop(anchor);
         else
-            add(row);
-        anchor = uniqueID;
-        ++revision;
+            add(anchor);
+        publish();
     }
 
     /// Selects from the anchor to @p row and nothing else.
     function extendTo(row: int) {
         const from = Math.max(0, rowOf(anchor));
-        replace(Math.min(from, row), Math.max(from, row));
+        selectRange(Math.min(from, row), Math.max(from, row));
     }
 
     function selectAll() {
-        replace(0, proxy ? proxy.rowCount() - 1 : -1);
+        selectRange(0, proxy ? proxy.rowCount() - 1 : -1);
     }
 
     /// The rows of the selection in the order of the view.
     function rows(): var {
         const found = [];
-        for (let row = 0; found.length < count && row < proxy.rowCount(); ++row) {
-            if (idAt(row) in kinds)
+        const end = count > 0 ? proxy.rowCount() : 0;
+        for (let row = 0; row < end && found.length < count; ++row) {
+            if (ids[idAt(row)] === true)
                 found.push(row);
         }
         return found;
@@ -79,43 +83,53 @@ QtObject {
         return proxy.data(proxy.index(row, 0), role);
     }
 
-    function replace(first: int, last: int) {
-        kinds = {};
-        count = 0;
-        snoozableCount = 0;
+    function selectRange(first: int, last: int) {
+        ids = {};
+        tally = { "count": 0, "snoozable": 0 };
         for (let row = first; row <= last; ++row)
-            add(row);
-        ++revision;
+            add(idAt(row));
+        publish();
     }
 
-    function add(row: int) {
-        const uniqueID = idAt(row);
-        if (uniqueID in kinds)
+    function add(uniqueID: string) {
+        if (ids[uniqueID] === true)
             return;
-        kinds[uniqueID] = value(row, ErrorRoles.errorType) ?? -1;
-        ++count;
-        if (ErrorKinds.canBeSnoozed(kinds[uniqueID]))
-            ++snoozableCount;
+        ids[uniqueID] = true;
+        ++tally.count;
+        if (canBeSnoozed(uniqueID))
+            ++tally.snoozable;
     }
 
     function drop(uniqueID: string) {
-        if (!(uniqueID in kinds))
+        if (ids[uniqueID] !== true)
             return;
-        if (ErrorKinds.canBeSnoozed(kinds[uniqueID]))
-            --snoozableCount;
-        --count;
-        delete kinds[uniqueID];
+        ids[uniqueID] = false;
+        --tally.count;
+        if (canBeSnoozed(uniqueID))
+            --tally.snoozable;
+    }
+
+    // The kind stands at the beginning of the id, which saves a look at the row.
+    function canBeSnoozed(uniqueID: string): bool {
+        return ErrorKinds.canBeSnoozed(parseInt(uniqueID, 10));
+    }
+
+    function publish() {
+        if (tally.count === 0)
+            ids = {};
+        count = tally.count;
+        snoozableCount = tally.snoozable;
+        ++revision;
     }
 
     readonly property Connections changes: Connections {
         target: selection.proxy
 
         function onRowsAboutToBeRemoved(parent, first, last) {
-            const before = selection.count;
-            for (let row = first; row <= last && selection.count > 0; ++row)
+            for (let row = first; row <= last && selection.tally.count > 0; ++row)
                 selection.drop(selection.idAt(row));
-            if (selection.count !== before)
-                ++selection.revision;
+            if (selection.count !== selection.tally.count)
+                selection.publish();
         }
 
         function onModelReset() {

@@ -6,8 +6,8 @@ import QtQuick.Controls.Basic
 /// The errors that its proxy shows, one a row, creating only the rows in sight.
 ///
 /// Keys: arrows, Page, Home and End move (with Shift they extend the selection, with Ctrl they
-/// leave it alone); Space selects or deselects; Ctrl+A selects all; Ctrl+C copies; Return asks for
-/// the station of the row; the Menu key asks for the context menu.
+/// leave it alone); Space selects or deselects; Ctrl+A selects all; Ctrl+C copies; S snoozes; Return
+/// asks for the station of the row; the Menu key asks for the context menu.
 ListView {
     id: table
 
@@ -15,11 +15,14 @@ ListView {
     required property ErrorSelection selection
     required property StationDirectory directory
     property ErrorColumns columns: ErrorColumns {
-        width: table.width
+        tableWidth: table.width
     }
+
+    property ErrorRow hoveredRow: null
 
     signal stationRequested(stationID: string)
     signal menuRequested(position: point)
+    signal snoozeRequested
     signal copyRequested
 
     model: proxy
@@ -39,32 +42,28 @@ ListView {
 
     ScrollBar.vertical: ThemedScrollBar {}
 
-    highlight: Item {
-        z: 2
-
-        Rectangle {
-            anchors.fill: parent
-            visible: table.activeFocus
-            color: "transparent"
-            border.color: Theme.accent
-            border.width: 2 * Theme.line
-        }
-    }
-
     delegate: ErrorRow {
         id: row
 
         width: table.width
         columns: table.columns
         directory: table.directory
-        current: ListView.isCurrentItem
+        current: ListView.isCurrentItem && table.activeFocus
         selected: table.selection.contains(uniqueIDRole ?? "")
         onPressed: event => table.pressRow(row.index, event)
         onDoubleClicked: table.stationRequested(row.stationIDRole ?? "")
+        onHoverChanged: hovered => table.hoveredRow = hovered ? row : null
         onCheckToggled: {
             table.takeCurrent(row.index);
             table.selection.toggle(row.index);
         }
+    }
+
+    // One hint for all rows; it tells what did not fit.
+    Tip {
+        parent: table.hoveredRow ?? table
+        text: table.hoveredRow?.fullText ?? ""
+        visible: table.hoveredRow?.truncated ?? false
     }
 
     onActiveFocusChanged: {
@@ -145,17 +144,23 @@ ListView {
             selection.selectAll();
         else if (key === Qt.Key_C && control)
             copyRequested();
+        else if (key === Qt.Key_S && modifiers === Qt.NoModifier)
+            snoozeRequested();
         else if (currentIndex < 0)
             return false;
         else if (key === Qt.Key_Space)
             selection.toggle(currentIndex);
         else if (key === Qt.Key_Return || key === Qt.Key_Enter)
-            stationRequested(selection.value(currentIndex, ErrorRoles.stationID) ?? "");
+            requestCurrentStation();
         else if (key === Qt.Key_Menu || (key === Qt.Key_F10 && modifiers & Qt.ShiftModifier))
             openMenuAtCurrent();
         else
             return false;
         return true;
+    }
+
+    function requestCurrentStation() {
+        stationRequested(selection.value(currentIndex, ErrorRoles.stationID) ?? "");
     }
 
     function openMenuAtCurrent() {

@@ -8,6 +8,12 @@ QtObject {
     readonly property real hour: 60 * minute
     readonly property real day: 24 * hour
 
+    /// Fills %1, %2 and so on. Unlike a chain of arg() it leaves alone what looks like a marker in
+    /// the values, which may be names that users chose.
+    function fill(text: string, ...values): string {
+        return text.replace(/%([1-9])/g, (marker, number) => values[number - 1] ?? marker);
+    }
+
     /// Local date and time with its zone; @p milliseconds since the epoch.
     function dateTime(milliseconds: real): string {
         return Qt.formatDateTime(new Date(milliseconds), "yyyy-MM-dd hh:mm:ss t");

@@ -8,13 +8,21 @@ MenuItem {
     implicitHeight: Theme.controlHeight
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
     leftPadding: Theme.pad
-    rightPadding: Theme.pad
+    rightPadding: subMenu ? Theme.em(2) : Theme.pad
     Accessible.name: text
 
     contentItem: PlainLabel {
         text: item.text
         font.pixelSize: Theme.normalFont
         color: item.enabled ? Theme.text : Theme.disabledText
+    }
+
+    arrow: Glyph {
+        x: item.width - width - Theme.gap
+        y: (item.height - height) / 2
+        visible: item.subMenu !== null
+        size: Theme.em(0.8)
+        name: "right"
     }
 
     background: Rectangle {

@@ -36,7 +36,7 @@ Item {
                                                { "plugin": plugin, "serverConnected": true,
                                                  "siteName": "Harbour" });
             verify(view);
-            waitForRendering(view);
+            waitForRendering(view); wait(100);grabImage(view).save("/tmp/dp/a.png")
         }
     }
 }
