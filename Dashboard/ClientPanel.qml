@@ -67,9 +67,11 @@ Panel {
             remark: qsTr("last %1").arg(Format.duration(panel.history.capacity))
         }
 
-        RowLayout {
+        GridLayout {
             Layout.fillWidth: true
-            spacing: Theme.em(1)
+            columns: panel.width < Theme.em(20) ? 1 : 2
+            columnSpacing: Theme.em(1)
+            rowSpacing: Theme.em(1)
 
             Meter {
                 name: qsTr("CPU")
@@ -80,6 +82,10 @@ Panel {
                 name: qsTr("Memory")
                 samples: panel.history.memory
             }
+        }
+
+        Item {
+            Layout.fillHeight: true
         }
     }
 }

@@ -18,6 +18,9 @@ Item {
     required property ErrorColumns columns
     required property StationDirectory directory
     required property bool selected
+    /// What is seen of the list that the row is in, in the list's coordinates.
+    required property real viewTop
+    required property real viewBottom
     /// Whether the keyboard is on this row.
     required property bool current
 
@@ -27,6 +30,10 @@ Item {
                                                                deviceIDRole ?? "",
                                                                triggerDeviceNameRole ?? "",
                                                                stationName)
+    // The software renderer forgets the clip of a Shape that lies outside it entirely, so drawings
+    // that are scrolled out of sight are hidden.
+    readonly property bool drawn: y + icon.y + icon.height > viewTop && y + icon.y < viewBottom
+
     readonly property bool hasTime: (timestampRole ?? 0) > 0
     readonly property string age: hasTime ? Format.age(timestampRole, Clock.now) : qsTr("unknown")
     readonly property string time: hasTime ? Format.recentTime(timestampRole, Clock.now) : ""
@@ -90,7 +97,7 @@ Item {
 
         Glyph {
             anchors.centerIn: parent
-            visible: row.selected
+            visible: row.selected && row.drawn
             size: Theme.em(1)
             name: "check"
             color: Theme.onStatus
@@ -106,6 +113,7 @@ Item {
     Glyph {
         id: icon
 
+        visible: row.drawn
         anchors.verticalCenter: parent.verticalCenter
         x: row.columns.kindX
         size: Theme.em(1.4)
@@ -119,6 +127,8 @@ Item {
         anchors.verticalCenter: parent.verticalCenter
         x: icon.x + icon.width + Theme.gap
         width: row.columns.kindX + row.columns.kindWidth - x - Theme.gap
+        wrapMode: row.columns.stacked ? Text.Wrap : Text.NoWrap
+        maximumLineCount: row.columns.stacked ? 2 : 1
         text: row.errorNameRole ?? ""
         color: row.kindColor
     }

@@ -48,6 +48,8 @@ ListView {
         width: table.width
         columns: table.columns
         directory: table.directory
+        viewTop: table.contentY
+        viewBottom: table.contentY + table.height
         current: ListView.isCurrentItem && table.activeFocus
         selected: table.selection.contains(uniqueIDRole ?? "")
         onPressed: event => table.pressRow(row.index, event)

@@ -15,6 +15,9 @@ Panel {
     /// Something happened that the user should read.
     signal noticed(status: string, text: string)
 
+    /// Whether the keyboard is on the list.
+    readonly property bool hasFocus: table.activeFocus
+
     readonly property var proxy: surface ? surface.getSystemErrorSortFilterModel(pane) : null
     readonly property ErrorFilters filters: ErrorFilters {
         proxy: pane.proxy

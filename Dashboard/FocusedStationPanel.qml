@@ -119,6 +119,8 @@ Panel {
                         required property int index
 
                         width: cards.width
+                        viewTop: flick.contentY - y
+                        viewBottom: viewTop + flick.height
                         plotHeight: panel.plotHeight
                         reported: panel.reports.entriesOf(index, repeater.count)
                     }

@@ -39,20 +39,27 @@ FocusScope {
     function showStation(stationID: string) {
         surface.focusStationResource = stationID;
         support.ask(stationID);
-        if (hasTabs)
-            tabs.show(tabs.tabs.length - 1);
+        if (!hasTabs)
+            return;
+        tabs.currentIndex = tabs.tabs.length - 1;
+        if (arrangement === "single" || !errors.hasFocus)
+            tabs.focusCurrent();
     }
 
     function showErrorsOf(stationID: string) {
         errors.filters.stationID = stationID;
-        if (arrangement === "single")
-            tabs.show(0);
+        showErrors();
+        errors.focusList();
     }
 
     function showTextFilter() {
+        showErrors();
+        errors.focusTextFilter();
+    }
+
+    function showErrors() {
         if (arrangement === "single")
             tabs.currentIndex = 0;
-        errors.focusTextFilter();
     }
 
     function clearFilters() {
@@ -111,9 +118,11 @@ FocusScope {
         height: page.height - y - page.margin
         visible: !page.hasTabs || page.chosenPane === 2
 
+        readonly property bool sideBySide: page.arrangement === "single"
+
         FocusedStationPanel {
-            width: parent.width
-            height: parent.height - client.height - page.margin
+            width: usage.sideBySide ? client.x - page.margin : parent.width
+            height: usage.sideBySide ? parent.height : client.y - page.margin
             surface: page.surface
             directory: page.directory
             support: page.support
@@ -123,9 +132,10 @@ FocusScope {
         ClientPanel {
             id: client
 
-            y: parent.height - height
-            width: parent.width
-            height: implicitHeight
+            x: parent.width - width
+            y: usage.sideBySide ? 0 : parent.height - height
+            width: usage.sideBySide ? Theme.em(13) : parent.width
+            height: usage.sideBySide ? parent.height : implicitHeight
             surface: page.surface
         }
     }

@@ -13,12 +13,20 @@ Item {
     required property bool serverConnected
     /// Whether the usage of this station is shown.
     required property bool focused
+    /// What is seen of the list that the row is in, in the list's coordinates.
+    required property real viewTop
+    required property real viewBottom
     /// Whether the keyboard is on this row.
     required property bool current
 
     readonly property string stationID: modelData.stationID
     readonly property var connected: serverConnected ? directory.isConnected(stationID) : undefined
     readonly property var supported: support.answerOf(stationID)
+    // The software renderer forgets the clip of a Shape that lies outside it entirely, so drawings
+    // that are scrolled out of sight are hidden.
+    readonly property real markTop: y + (height - mark.height) / 2
+    readonly property bool drawn: markTop + mark.height > viewTop && markTop < viewBottom
+
     readonly property int supportRevision: support.revision
     readonly property int errorCount: directory.errorsOf(stationID)
     readonly property string name: modelData.name !== "" ? modelData.name : qsTr("Without a station")
@@ -75,6 +83,9 @@ Item {
         spacing: Theme.gap
 
         StateMark {
+            id: mark
+
+            opacity: row.drawn ? 1 : 0
             status: row.connected === true ? "good" : row.connected === false ? "critical"
                                                                               : "unknown"
         }
@@ -98,6 +109,7 @@ Item {
         }
 
         ErrorBadge {
+            opacity: row.drawn ? 1 : 0
             count: row.errorCount
             onClicked: row.filterRequested()
         }

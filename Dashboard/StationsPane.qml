@@ -83,6 +83,8 @@ Panel {
                 support: pane.support
                 serverConnected: pane.serverConnected
                 focused: stationID === pane.focusedStation && stationID !== ""
+                viewTop: list.contentY
+                viewBottom: list.contentY + list.height
                 current: ListView.isCurrentItem && list.activeFocus
                 onChosen: {
                     list.forceActiveFocus(Qt.MouseFocusReason);

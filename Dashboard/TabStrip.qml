@@ -10,10 +10,9 @@ Row {
     property var tabs: []
     property int currentIndex: 0
 
-    /// Shows a tab and moves the keyboard there, since the pane that had it may be hidden now.
-    function show(index: int) {
-        currentIndex = index;
-        buttons.itemAt(index).forceActiveFocus(Qt.OtherFocusReason);
+    /// Takes the keyboard from a pane that the change of the tab has hidden.
+    function focusCurrent() {
+        buttons.itemAt(currentIndex).forceActiveFocus(Qt.ShortcutFocusReason);
     }
 
     Accessible.role: Accessible.PageTabList

@@ -17,6 +17,16 @@ Item {
     /// How many of the newest entries of the history stand for reports; the rest only fill it up.
     property int reported: 0
 
+    /// What is seen of the panel that the card is in, in the card's coordinates.
+    property real viewTop: -Infinity
+    property real viewBottom: Infinity
+
+    // The software renderer forgets the clip of a Shape that lies outside it entirely, so drawings
+    // that are scrolled out of sight are hidden.
+    function isSeen(item: Item): bool {
+        return item.y + item.height > viewTop && item.y < viewBottom;
+    }
+
     readonly property int networkType: 2
     readonly property var samples: reported > 0 ? (usageListRole ?? []).slice(-reported) : []
     readonly property bool known: samples.length > 0
@@ -48,6 +58,9 @@ Item {
         spacing: Theme.em(0.3)
 
         RowLayout {
+            id: title
+
+            opacity: card.isSeen(title) ? 1 : 0
             Layout.fillWidth: true
             spacing: Theme.gap
 
@@ -76,6 +89,9 @@ Item {
         }
 
         UsagePlot {
+            id: plot
+
+            opacity: card.isSeen(plot) ? 1 : 0
             Layout.fillWidth: true
             Layout.preferredHeight: card.plotHeight
             samples: card.samples

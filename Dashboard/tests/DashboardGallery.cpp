@@ -10,6 +10,7 @@
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQmlExtensionPlugin>
+#include <QQuickItem>
 #include <QQuickView>
 #include <QTest>
 #include <QTranslator>
@@ -27,6 +28,8 @@ struct Scene
     QString language = QStringLiteral("en");
     double fontScale = 1;
     bool connected = true;
+    /// Whether every station is connected.
+    bool well = false;
     /// What happens before the picture is taken.
     std::function<void(QQuickView &, FakePlugin &)> act = [](QQuickView &, FakePlugin &) {};
 };
@@ -91,6 +94,32 @@ void fillAndSnooze(QQuickView &view, FakePlugin &plugin)
     Q_EMIT plugin.setSnoozeResponse(false);
 }
 
+void fillAndShowUsage(QQuickView &view, FakePlugin &plugin)
+{
+    fill(view, plugin);
+    QTest::keyClick(&view, Qt::Key_Down);
+    QTest::keyClick(&view, Qt::Key_Return);
+}
+
+/// The button below @p item that bears @p text, or null.
+QQuickItem *findButton(QQuickItem *item, const QString &text)
+{
+    if (item->inherits("QQuickAbstractButton") && item->property("text") == text)
+        return item;
+    for (QQuickItem *child : item->childItems()) {
+        if (QQuickItem *button = findButton(child, text))
+            return button;
+    }
+    return nullptr;
+}
+
+void fillAndShowStations(QQuickView &view, FakePlugin &plugin)
+{
+    fill(view, plugin);
+    QMetaObject::invokeMethod(findButton(view.rootObject(), QStringLiteral("Stations")), "clicked");
+    view.requestUpdate();
+}
+
 void fillWithThousands(QQuickView &view, FakePlugin &plugin)
 {
     fill(view, plugin);
@@ -117,6 +146,15 @@ QList<Scene> scenes()
          .size = {1024, 640},
          .fontScale = 2,
          .act = fill},
+        {.name = QStringLiteral("small-usage"), .size = {1024, 640}, .act = fillAndShowUsage},
+        {.name = QStringLiteral("small-large-font-usage"),
+         .size = {1024, 640},
+         .fontScale = 2,
+         .act = fillAndShowUsage},
+        {.name = QStringLiteral("small-large-font-stations"),
+         .size = {1024, 640},
+         .fontScale = 2,
+         .act = fillAndShowStations},
         {.name = QStringLiteral("4k"), .size = {3840, 2160}, .act = fill},
         {.name = QStringLiteral("4k-large-font"),
          .size = {3840, 2160},
@@ -125,6 +163,7 @@ QList<Scene> scenes()
         {.name = QStringLiteral("lost"), .connected = false},
         {.name = QStringLiteral("lost-light"), .dark = false, .connected = false},
         {.name = QStringLiteral("well"),
+         .well = true,
          .act = [](QQuickView &, FakePlugin &plugin) { SampleSite::fillClient(plugin); }},
         {.name = QStringLiteral("filtered"), .act = fillAndFilterAway},
         {.name = QStringLiteral("menu"), .act = fillAndOpenMenu},
@@ -168,7 +207,7 @@ bool draw(const Scene &scene, const QDir &folder)
         {QStringLiteral("serverConnected"), scene.connected},
         {QStringLiteral("connectionSince"),
          QDateTime::fromMSecsSinceEpoch(SampleSite::now() - 5 * 60 * 1000)},
-        {QStringLiteral("stations"), SampleSite::stations()},
+        {QStringLiteral("stations"), SampleSite::stations(scene.well)},
     });
     view.setSource(QUrl(QStringLiteral("qrc:/qt/qml/Dashboard/DashboardView.qml")));
     view.resize(scene.size);

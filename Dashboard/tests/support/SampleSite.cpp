@@ -40,14 +40,14 @@ qint64 now()
     return QDateTime(QDate(2024, 5, 14), QTime(14, 7, 33)).toMSecsSinceEpoch();
 }
 
-QVariantList stations()
+QVariantList stations(bool well)
 {
     return {
         station(QStringLiteral("lobby"), QStringLiteral("Lobby NVR"), QString(), true),
         station(QStringLiteral("quay"), QStringLiteral("Quay NVR"), QString(), true),
         station(QStringLiteral("quay/crane"), QStringLiteral("Crane 3"), QStringLiteral("quay"),
-                false),
-        station(QStringLiteral("parking"), QStringLiteral("Parking deck"), QString(), false),
+                well),
+        station(QStringLiteral("parking"), QStringLiteral("Parking deck"), QString(), well),
         station(QStringLiteral("archive"), QStringLiteral("Archive"), QString(), true),
     };
 }

@@ -11,8 +11,8 @@ namespace SampleSite {
 /// The moment that the pictures show, in milliseconds since the epoch.
 qint64 now();
 
-/// The host's list of stations.
-QVariantList stations();
+/// The host's list of stations; two of them are disconnected unless all are @p well.
+QVariantList stations(bool well);
 
 /// Raises the errors and answers which stations support monitoring.
 void fillErrors(FakePlugin &plugin);
