@@ -17,10 +17,14 @@ QtObject {
     readonly property bool active: categories !== ErrorKinds.allCategories || stationID !== ""
                                    || text !== ""
 
+    /// Everything is to be shown again.
+    signal cleared
+
     function clear() {
         categories = ErrorKinds.allCategories;
         stationID = "";
         text = "";
+        cleared();
     }
 
     // A fresh proxy shows everything, and each setting would make it go through all its rows again.

@@ -28,6 +28,9 @@ ListView {
     model: proxy
     clip: true
     reuseItems: true
+    // Rows beyond the edge would be made in the background, and to call that off when the list is
+    // emptied meanwhile makes the view complain.
+    cacheBuffer: 0
     currentIndex: -1
     keyNavigationEnabled: false
     highlightFollowsCurrentItem: true

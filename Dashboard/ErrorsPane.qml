@@ -25,6 +25,9 @@ Panel {
     readonly property ErrorSelection selection: ErrorSelection {
         proxy: pane.proxy
     }
+    readonly property RowCounter shown: RowCounter {
+        model: pane.proxy
+    }
     readonly property RowCounter total: RowCounter {
         model: pane.surface ? pane.surface.getSystemErrorModel() : null
     }
@@ -121,7 +124,7 @@ Panel {
             Layout.fillWidth: true
             Layout.margins: Theme.pad
             selection: pane.selection
-            shown: table.count
+            shown: pane.shown.count
             total: pane.total.count
             serverConnected: pane.serverConnected
             onSnoozeChosen: seconds => pane.snoozeFor(seconds)
@@ -146,7 +149,7 @@ Panel {
             Layout.fillWidth: true
             filters: pane.filters
             directory: pane.directory
-            hidden: pane.total.count - table.count
+            hidden: pane.total.count - pane.shown.count
         }
 
         ErrorTableHeader {
@@ -171,10 +174,10 @@ Panel {
             ErrorsEmptyState {
                 anchors.centerIn: parent
                 width: Math.min(parent.width - 2 * Theme.pad, Theme.em(40))
-                visible: table.count === 0
+                visible: pane.shown.count === 0
                 serverConnected: pane.serverConnected
                 connectionSince: pane.connectionSince
-                hidden: pane.total.count - table.count
+                hidden: pane.total.count - pane.shown.count
             }
         }
     }

@@ -78,5 +78,11 @@ Flow {
             typing.stop();
             field.text = bar.filters.text;
         }
+
+        // There may be text that was typed but not applied yet.
+        function onCleared() {
+            typing.stop();
+            field.clear();
+        }
     }
 }

@@ -8,7 +8,6 @@ Panel {
 
     property string status: "good"
     property string text
-    readonly property bool shown: visible
 
     function show(newStatus: string, newText: string) {
         status = newStatus;
@@ -31,11 +30,10 @@ Panel {
     Accessible.role: Accessible.AlertMessage
     Accessible.name: text
 
-    Timer {
+    readonly property Timer timer: Timer {
         id: timer
 
         interval: notice.status === "critical" ? 15000 : 6000
-        running: false
         onTriggered: {
             if (hover.hovered || close.activeFocus)
                 restart();

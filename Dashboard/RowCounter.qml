@@ -1,6 +1,7 @@
 import QtQuick
 
-/// The number of rows of a model.
+/// The number of rows of a model. A burst of changes is counted once, when control returns to the
+/// event loop, so that ten thousand errors at once do not refresh every text ten thousand times.
 QtObject {
     id: counter
 
@@ -14,19 +15,24 @@ QtObject {
 
     onModelChanged: recount()
 
+    readonly property Timer burst: Timer {
+        interval: 0
+        onTriggered: counter.recount()
+    }
+
     readonly property Connections changes: Connections {
         target: counter.model
 
         function onRowsInserted() {
-            counter.recount();
+            counter.burst.start();
         }
 
         function onRowsRemoved() {
-            counter.recount();
+            counter.burst.start();
         }
 
         function onModelReset() {
-            counter.recount();
+            counter.burst.start();
         }
     }
 }

@@ -16,9 +16,12 @@ QtObject {
     /// Something about the numbers changed.
     signal updated
 
-    /// "good", "critical", or "unknown" while answers are missing.
-    readonly property string status: refused + unsent > 0 ? "critical"
-                                                          : pending > 0 ? "unknown" : "good"
+    /// How many stayed without an answer for too long.
+    readonly property int unanswered: patience.running ? 0 : pending
+
+    /// "good", "critical", or "unknown" while answers are awaited.
+    readonly property string status: refused + unsent + unanswered > 0
+                                     ? "critical" : pending > 0 ? "unknown" : "good"
 
     /// Where the requests stand, in words.
     readonly property string summary: {
@@ -29,10 +32,10 @@ QtObject {
             parts.push(qsTr("The server refused %n snooze(s)", "", refused));
         if (unsent > 0)
             parts.push(qsTr("%n snooze(s) could not be sent", "", unsent));
-        if (pending > 0) {
-            parts.push(patience.running ? qsTr("Waiting for the answer to %n snooze(s)", "", pending)
-                                        : qsTr("No answer to %n snooze(s)", "", pending));
-        }
+        if (unanswered > 0)
+            parts.push(qsTr("No answer to %n snooze(s)", "", unanswered));
+        else if (pending > 0)
+            parts.push(qsTr("Waiting for the answer to %n snooze(s)", "", pending));
         return parts.join(" · ");
     }
 

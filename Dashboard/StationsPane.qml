@@ -41,6 +41,7 @@ Panel {
             Layout.fillHeight: true
             model: pane.directory.rows
             clip: true
+            cacheBuffer: 0
             currentIndex: -1
             highlightMoveDuration: 0
             boundsBehavior: Flickable.StopAtBounds

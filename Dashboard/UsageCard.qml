@@ -37,9 +37,12 @@ Item {
 
     readonly property string name: subtitleRole ? titleRole + " · " + subtitleRole
                                                 : titleRole ?? ""
-    readonly property string limitText: over ? qsTr("over threshold %1")
-                                               .arg(Format.percent(thresholdRole))
-                                             : qsTr("threshold %1").arg(Format.percent(thresholdRole))
+    readonly property string limitText: {
+        if (thresholdRole === undefined)
+            return "";
+        const limit = Format.percent(thresholdRole);
+        return over ? qsTr("over threshold %1").arg(limit) : qsTr("threshold %1").arg(limit);
+    }
     readonly property string bandwidthText: typeRole === networkType && bandwidthRole > 0
                                             ? Format.bandwidth(bandwidthRole) : ""
     readonly property string detail: bandwidthText === "" ? limitText

@@ -135,6 +135,14 @@ void FakePlugin::addError(int type, const QString &stationID, const QString &dev
     errors.appendRow(item);
 }
 
+void FakePlugin::addBareError(const QString &uniqueID)
+{
+    auto *item = new QStandardItem;
+    item->setData(uniqueID, UniqueIDRole);
+    item->setData(1, ErrorCategoryRole);
+    errors.appendRow(item);
+}
+
 void FakePlugin::addCameraErrors(int count, qint64 newest)
 {
     for (int i = 0; i < count; ++i) {

@@ -61,6 +61,9 @@ public:
     /// @p names holds the station's name and, for a camera, the camera's name.
     Q_INVOKABLE void addError(int type, const QString &stationID, const QString &deviceID,
                               const QStringList &names, qint64 timestamp);
+    /// Appends an error that has nothing but a key and a category.
+    Q_INVOKABLE void addBareError(const QString &uniqueID);
+    /// Appends cameras of the stations st0 to st9, a second apart, the newest first.
     Q_INVOKABLE void addCameraErrors(int count, qint64 newest);
     Q_INVOKABLE void removeError(const QString &uniqueID);
     Q_INVOKABLE void clearErrors();
