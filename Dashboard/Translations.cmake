@@ -1,18 +1,17 @@
 # The catalogues of the dashboard's texts, embedded as :/i18n/Dashboard_<language>.qm.
 # The target Dashboard_lupdate brings them up to date with the sources. The English one holds plural
 # forms alone, because the texts are written in English.
-set(DASHBOARD_QML_FILES ${DASHBOARD_SINGLETONS} ${DASHBOARD_COMPONENTS})
+set(DASHBOARD_LUPDATE_OPTIONS -locations none -no-obsolete)
+set(DASHBOARD_TEXT_SOURCES ${DASHBOARD_SINGLETONS} ${DASHBOARD_COMPONENTS})
+list(TRANSFORM DASHBOARD_TEXT_SOURCES PREPEND "${CMAKE_CURRENT_SOURCE_DIR}/")
 
-qt_add_lupdate(Dashboard
-    TS_FILES i18n/Dashboard_de.ts
-    SOURCES ${DASHBOARD_QML_FILES}
-    OPTIONS -locations none -no-obsolete)
-add_custom_target(Dashboard_lupdate_en
-    COMMAND Qt6::lupdate -pluralonly -locations none -no-obsolete ${DASHBOARD_QML_FILES}
+add_custom_target(Dashboard_lupdate
+    COMMAND Qt6::lupdate ${DASHBOARD_LUPDATE_OPTIONS} ${DASHBOARD_TEXT_SOURCES}
+        -ts i18n/Dashboard_de.ts
+    COMMAND Qt6::lupdate -pluralonly ${DASHBOARD_LUPDATE_OPTIONS} ${DASHBOARD_TEXT_SOURCES}
         -ts i18n/Dashboard_en.ts
     WORKING_DIRECTORY "${CMAKE_CURRENT_SOURCE_DIR}"
     VERBATIM)
-add_dependencies(Dashboard_lupdate Dashboard_lupdate_en)
 
 qt_add_lrelease(Dashboard
     TS_FILES i18n/Dashboard_de.ts i18n/Dashboard_en.ts
