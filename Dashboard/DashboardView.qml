@@ -1,0 +1,83 @@
+import QtQuick
+
+/// The health dashboard of a site, shown from the plug-in's surface and from what the host knows
+/// about the site.
+///
+/// Keys: Ctrl+F goes to the text filter, Esc clears the filters; see also ErrorTable and
+/// StationsPane.
+FocusScope {
+    id: root
+
+    /// The plug-in; not owned.
+    required property QtObject plugin
+    property string siteName
+    property bool serverConnected: false
+    /// Since when serverConnected has its value: a Date, or undefined when nobody knows.
+    property var connectionSince
+    /// List of {stationID, name, parentID, connected}; parentID is empty for a top-level station.
+    property var stations: []
+
+    // What it offers is known only at run time.
+    readonly property var surface: plugin
+
+    anchors.fill: parent
+    focus: true
+
+    Keys.onEscapePressed: overview.clearFilters()
+
+    Shortcut {
+        sequence: "Ctrl+F"
+        onActivated: overview.showTextFilter()
+    }
+
+    StationDirectory {
+        id: directory
+
+        stations: root.stations
+        errorCounts: root.surface?.stationErrorList ?? []
+    }
+
+    Rectangle {
+        anchors.fill: parent
+        color: Theme.window
+    }
+
+    DashboardHeader {
+        id: header
+
+        width: parent.width
+        siteName: root.siteName
+        serverConnected: root.serverConnected
+        connectionSince: root.connectionSince
+    }
+
+    CapacityBanner {
+        id: banner
+
+        anchors.top: header.bottom
+        width: parent.width
+        surface: root.surface
+    }
+
+    OverviewPage {
+        id: overview
+
+        anchors.top: banner.bottom
+        anchors.bottom: parent.bottom
+        width: parent.width
+        focus: true
+        surface: root.surface
+        directory: directory
+        serverConnected: root.serverConnected
+        connectionSince: root.connectionSince
+        onNoticed: (status, text) => notice.show(status, text)
+    }
+
+    NoticeBar {
+        id: notice
+
+        anchors.horizontalCenter: parent.horizontalCenter
+        anchors.bottom: parent.bottom
+        anchors.bottomMargin: Theme.em(1.5)
+    }
+}

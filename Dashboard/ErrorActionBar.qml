@@ -1,0 +1,106 @@
+import QtQuick
+import QtQuick.Layouts
+
+/// How many errors there are, and what can be done about them.
+RowLayout {
+    id: bar
+
+    required property ErrorSelection selection
+    property int shown: 0
+    property int total: 0
+    property bool serverConnected: false
+    readonly property bool canSnooze: serverConnected && selection.snoozableCount > 0
+
+    signal snoozeChosen(seconds: int)
+    signal snoozeMomentWanted
+    signal copyChosen
+    signal reconnectCamerasChosen
+    signal reconnectSubstationsChosen
+
+    readonly property bool narrow: width < Theme.em(44)
+    readonly property string snoozeText: selection.snoozableCount === 0
+                                         ? qsTr("Snooze")
+                                         : qsTr("Snooze %1", "number of errors")
+                                           .arg(selection.snoozableCount)
+
+    function openSnoozeMenu() {
+        if (canSnooze)
+            snoozeMenu.popup(snooze, 0, snooze.height);
+    }
+
+    spacing: Theme.gap
+
+    PlainLabel {
+        text: qsTr("Errors")
+        font.pixelSize: Theme.largeFont
+        font.weight: Font.DemiBold
+    }
+
+    PlainLabel {
+        Layout.fillWidth: true
+        readonly property string numbers: !bar.serverConnected && bar.total === 0
+                                          ? qsTr("unknown")
+                                          : bar.shown === bar.total
+                                          ? qsTr("%1", "number of errors").arg(bar.total)
+                                          : qsTr("%1 of %2", "shown and all errors").arg(bar.shown)
+                                            .arg(bar.total)
+        text: bar.selection.count === 0 ? numbers
+                                        : numbers + " · " + qsTr("%n selected", "",
+                                                                 bar.selection.count)
+        font.pixelSize: Theme.largeFont
+        color: Theme.mutedText
+        Accessible.role: Accessible.StaticText
+        Accessible.name: text
+    }
+
+    ActionButton {
+        id: snooze
+
+        text: bar.narrow ? "" : bar.snoozeText
+        glyph: "clock"
+        opensMenu: true
+        enabled: bar.canSnooze
+        hint: qsTr("Snooze the selected disconnections (S)")
+        onClicked: bar.openSnoozeMenu()
+
+        SnoozeMenu {
+            id: snoozeMenu
+
+            onDurationChosen: seconds => bar.snoozeChosen(seconds)
+            onMomentWanted: bar.snoozeMomentWanted()
+        }
+    }
+
+    ActionButton {
+        text: bar.narrow ? "" : qsTr("Copy")
+        glyph: "copy"
+        enabled: bar.selection.count > 0
+        hint: qsTr("Copy the selected errors (Ctrl+C)")
+        onClicked: bar.copyChosen()
+    }
+
+    ActionButton {
+        id: reconnect
+
+        text: bar.narrow ? "" : qsTr("Reconnect")
+        glyph: "reconnect"
+        opensMenu: true
+        enabled: bar.serverConnected && bar.total > 0
+        hint: qsTr("Ask the server to reconnect what is disconnected")
+        onClicked: reconnectMenu.popup(reconnect, 0, reconnect.height)
+
+        ThemedMenu {
+            id: reconnectMenu
+
+            ThemedMenuItem {
+                text: qsTr("All disconnected cameras")
+                onTriggered: bar.reconnectCamerasChosen()
+            }
+
+            ThemedMenuItem {
+                text: qsTr("All disconnected sub-stations")
+                onTriggered: bar.reconnectSubstationsChosen()
+            }
+        }
+    }
+}

@@ -1,0 +1,184 @@
+import QtQuick
+import QtQuick.Layouts
+
+/// The error list with its filters and actions.
+Panel {
+    id: pane
+
+    required property var surface
+    required property StationDirectory directory
+    property bool serverConnected: false
+    property var connectionSince
+
+    /// The user wants to see the station of an error.
+    signal stationRequested(stationID: string)
+    /// Something happened that the user should read.
+    signal noticed(status: string, text: string)
+
+    /// Whether the keyboard is on the list.
+    readonly property bool hasFocus: table.activeFocus
+
+    readonly property var proxy: surface ? surface.getSystemErrorSortFilterModel(pane) : null
+    readonly property ErrorFilters filters: ErrorFilters {
+        proxy: pane.proxy
+    }
+    readonly property ErrorSelection selection: ErrorSelection {
+        proxy: pane.proxy
+    }
+    readonly property RowCounter shown: RowCounter {
+        model: pane.proxy
+    }
+    readonly property RowCounter total: RowCounter {
+        model: pane.surface ? pane.surface.getSystemErrorModel() : null
+    }
+    readonly property SnoozeRequests requests: SnoozeRequests {
+        surface: pane.surface
+        onUpdated: pane.noticed(status, summary)
+    }
+
+    function focusList() {
+        table.forceActiveFocus(Qt.ShortcutFocusReason);
+    }
+
+    function focusTextFilter() {
+        filterBar.focusText();
+    }
+
+    function snoozeFor(seconds: int) {
+        snoozeUntil(Clock.now + seconds * 1000);
+    }
+
+    function snoozeUntil(milliseconds: real) {
+        const nodes = [];
+        for (const row of selection.rows()) {
+            const type = selection.value(row, ErrorRoles.errorType);
+            const role = type === ErrorKinds.cameraDisconnected ? ErrorRoles.deviceID
+                                                                : ErrorRoles.stationID;
+            if (ErrorKinds.canBeSnoozed(type))
+                nodes.push({ "nodeID": selection.value(row, role), "type": type });
+        }
+        requests.send(nodes, Math.floor(milliseconds / 1000));
+    }
+
+    function askSnoozeMoment() {
+        const hour = 3600 * 1000;
+        snoozeDialog.ask(Math.ceil(Clock.now / hour) * hour + hour);
+    }
+
+    /// One line for an error, its fields parted by tabs.
+    function lineOf(row: int): string {
+        const timestamp = selection.value(row, ErrorRoles.timestamp) ?? 0;
+        let line = timestamp > 0 ? Format.dateTime(timestamp) : "";
+        for (const role of [ErrorRoles.errorName, ErrorRoles.triggerDeviceName,
+                            ErrorRoles.stationID, ErrorRoles.deviceID])
+            line += "\t" + (selection.value(row, role) ?? "");
+        return line;
+    }
+
+    function copySelection() {
+        const rows = selection.rows();
+        if (rows.length === 0)
+            return;
+        clipboard.put(rows.map(row => lineOf(row)).join("\n"));
+        noticed("good", qsTr("%n error(s) copied", "", rows.length));
+    }
+
+    function reconnectCameras() {
+        surface.reconnectDisconnectCameras();
+        noticed("good", qsTr("Asked to reconnect all disconnected cameras"));
+    }
+
+    function reconnectSubstations() {
+        surface.reconnectDisconnectSubstations();
+        noticed("good", qsTr("Asked to reconnect all disconnected sub-stations"));
+    }
+
+    Clipboard {
+        id: clipboard
+    }
+
+    SnoozeUntilDialog {
+        id: snoozeDialog
+
+        onChosen: milliseconds => pane.snoozeUntil(milliseconds)
+    }
+
+    ErrorMenu {
+        id: contextMenu
+
+        canSnooze: actions.canSnooze
+        onSnoozeChosen: seconds => pane.snoozeFor(seconds)
+        onSnoozeMomentWanted: pane.askSnoozeMoment()
+        onCopyChosen: pane.copySelection()
+        onStationChosen: table.requestCurrentStation()
+    }
+
+    ColumnLayout {
+        anchors.fill: parent
+        anchors.margins: Theme.line
+        spacing: 0
+
+        ErrorActionBar {
+            id: actions
+
+            Layout.fillWidth: true
+            Layout.margins: Theme.pad
+            selection: pane.selection
+            shown: pane.shown.count
+            total: pane.total.count
+            serverConnected: pane.serverConnected
+            onSnoozeChosen: seconds => pane.snoozeFor(seconds)
+            onSnoozeMomentWanted: pane.askSnoozeMoment()
+            onCopyChosen: pane.copySelection()
+            onReconnectCamerasChosen: pane.reconnectCameras()
+            onReconnectSubstationsChosen: pane.reconnectSubstations()
+        }
+
+        FilterBar {
+            id: filterBar
+
+            Layout.fillWidth: true
+            Layout.leftMargin: Theme.pad
+            Layout.rightMargin: Theme.pad
+            Layout.bottomMargin: Theme.pad
+            filters: pane.filters
+            directory: pane.directory
+        }
+
+        FilterNotice {
+            Layout.fillWidth: true
+            filters: pane.filters
+            directory: pane.directory
+            hidden: pane.total.count - pane.shown.count
+        }
+
+        ErrorTableHeader {
+            Layout.fillWidth: true
+            columns: table.columns
+        }
+
+        ErrorTable {
+            id: table
+
+            focus: true
+            Layout.fillWidth: true
+            Layout.fillHeight: true
+            proxy: pane.proxy
+            selection: pane.selection
+            directory: pane.directory
+            onStationRequested: stationID => pane.stationRequested(stationID)
+            onMenuRequested: position => contextMenu.popup(table, position)
+            onSnoozeRequested: actions.openSnoozeMenu()
+            onCopyRequested: pane.copySelection()
+
+            ErrorsEmptyState {
+                anchors.centerIn: parent
+                width: Math.min(parent.width - 2 * Theme.pad, Theme.em(40))
+                visible: pane.shown.count === 0
+                serverConnected: pane.serverConnected
+                connectionSince: pane.connectionSince
+                hidden: pane.total.count - pane.shown.count
+            }
+        }
+    }
+}

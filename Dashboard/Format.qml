@@ -1,0 +1,66 @@
+pragma Singleton
+
+import QtQuick
+
+/// Times, durations and amounts in words.
+QtObject {
+    readonly property real minute: 60
+    readonly property real hour: 60 * minute
+    readonly property real day: 24 * hour
+
+    /// Fills %1, %2 and so on. Unlike a chain of arg() it leaves alone what looks like a marker in
+    /// the values, which may be names that users chose.
+    function fill(text: string, ...values): string {
+        return text.replace(/%([1-9])/g, (marker, number) => values[number - 1] ?? marker);
+    }
+
+    /// Local date and time with its zone; @p milliseconds since the epoch.
+    function dateTime(milliseconds: real): string {
+        return Qt.formatDateTime(new Date(milliseconds), "yyyy-MM-dd hh:mm:ss t");
+    }
+
+    /// As dateTime(), without the date when it is that of @p now.
+    function recentTime(milliseconds: real, now: real): string {
+        const date = new Date(milliseconds);
+        const today = date.toDateString() === new Date(now).toDateString();
+        return Qt.formatDateTime(date, today ? "hh:mm:ss t" : "yyyy-MM-dd hh:mm t");
+    }
+
+    /// A length of time in its two largest units; a negative one counts as none.
+    function duration(seconds: real): string {
+        const whole = Math.max(0, Math.floor(seconds));
+        if (whole < minute)
+            return qsTr("%1 s").arg(whole);
+        if (whole < hour)
+            return qsTr("%1 min").arg(Math.floor(whole / minute));
+        if (whole < day) {
+            return qsTr("%1 h %2 min").arg(Math.floor(whole / hour))
+                                      .arg(Math.floor(whole % hour / minute));
+        }
+        return qsTr("%1 d %2 h").arg(Math.floor(whole / day)).arg(Math.floor(whole % day / hour));
+    }
+
+    /// The time from one moment to another, both in milliseconds since the epoch.
+    function age(milliseconds: real, now: real): string {
+        return duration((now - milliseconds) / 1000);
+    }
+
+    /// A percentage, rounded to a whole number.
+    function percent(value: real): string {
+        return qsTr("%1 %").arg(Math.round(value));
+    }
+
+    /// A bandwidth given in bits per second.
+    function bandwidth(bitsPerSecond: real): string {
+        const units = [qsTr("bit/s"), qsTr("kbit/s"), qsTr("Mbit/s"), qsTr("Gbit/s")];
+        let amount = Math.max(0, bitsPerSecond);
+        let unit = 0;
+        while (amount >= 1000 && unit < units.length - 1) {
+            amount /= 1000;
+            ++unit;
+        }
+        const decimals = unit === 0 || amount >= 100 ? 0 : 1;
+        return qsTr("%1 %2", "amount and unit").arg(Number(amount).toLocaleString(Qt.locale(), "f", decimals))
+                                               .arg(units[unit]);
+    }
+}

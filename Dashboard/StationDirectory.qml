@@ -1,0 +1,87 @@
+import QtQuick
+
+/// The stations as the host lists them, joined with the plug-in's error counts.
+///
+/// The rows change only when stations come, go, move or are renamed, so that a view of them stays
+/// where it is while counts and connection states change.
+QtObject {
+    id: directory
+
+    /// The host's list of {stationID, name, parentID, connected}.
+    property var stations: []
+    /// The plug-in's list of {stationID, errorNumber}.
+    property var errorCounts: []
+
+    /// List of {stationID, name, depth}: every station below its parent, then those that have
+    /// errors but that the host does not list.
+    property var rows: []
+
+    readonly property var byID: {
+        const map = {};
+        for (const station of stations ?? [])
+            map[station.stationID] = station;
+        return map;
+    }
+
+    readonly property var errorsByID: {
+        const map = {};
+        for (const entry of errorCounts ?? [])
+            map[entry.stationID] = entry.errorNumber;
+        return map;
+    }
+
+    /// The station's name; its id when the host does not list it.
+    function nameOf(stationID: string): string {
+        return byID[stationID]?.name || stationID;
+    }
+
+    function errorsOf(stationID: string): int {
+        return errorsByID[stationID] ?? 0;
+    }
+
+    /// True, false, or undefined for a station that the host does not list.
+    function isConnected(stationID: string): var {
+        return byID[stationID]?.connected;
+    }
+
+    function childrenByParent(): var {
+        const children = {};
+        for (const station of stations ?? []) {
+            const parent = station.parentID in byID ? station.parentID : "";
+            if (!(parent in children))
+                children[parent] = [];
+            children[parent].push(station.stationID);
+        }
+        return children;
+    }
+
+    function buildRows(): var {
+        const children = childrenByParent();
+        const result = [];
+        const seen = {};
+        const append = function (stationID, depth) {
+            if (stationID in seen)
+                return;
+            seen[stationID] = true;
+            result.push({ "stationID": stationID, "name": nameOf(stationID), "depth": depth });
+            for (const child of children[stationID] ?? [])
+                append(child, depth + 1);
+        };
+        for (const stationID of children[""] ?? [])
+            append(stationID, 0);
+        // What a circle of parents or a gap in the host's list would hide still has to be seen.
+        for (const stationID of Object.keys(byID).concat(Object.keys(errorsByID)))
+            append(stationID, 0);
+        return result;
+    }
+
+    function refresh() {
+        const fresh = buildRows();
+        if (JSON.stringify(fresh) !== JSON.stringify(rows))
+            rows = fresh;
+    }
+
+    onByIDChanged: refresh()
+    onErrorsByIDChanged: refresh()
+    Component.onCompleted: refresh()
+}

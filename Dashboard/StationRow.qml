@@ -1,0 +1,121 @@
+import QtQuick
+import QtQuick.Layouts
+
+/// One station: its state by shape and word, whether it supports monitoring, and its errors.
+Item {
+    id: row
+
+    required property int index
+    required property var modelData
+
+    required property StationDirectory directory
+    required property MonitoringSupport support
+    required property bool serverConnected
+    /// Whether the usage of this station is shown.
+    required property bool focused
+    /// What is seen of the list that the row is in, in the list's coordinates.
+    required property real viewTop
+    required property real viewBottom
+    /// Whether the keyboard is on this row.
+    required property bool current
+
+    readonly property string stationID: modelData.stationID
+    readonly property var connected: serverConnected ? directory.isConnected(stationID) : undefined
+    readonly property var supported: support.answerOf(stationID)
+    // The software renderer forgets the clip of a Shape that lies outside it entirely, so drawings
+    // that are scrolled out of sight are hidden.
+    readonly property real markTop: y + (height - mark.height) / 2
+    readonly property bool drawn: markTop + mark.height > viewTop && markTop < viewBottom
+
+    readonly property int supportRevision: support.revision
+    readonly property int errorCount: directory.errorsOf(stationID)
+    readonly property string name: modelData.name !== "" ? modelData.name : qsTr("Without a station")
+
+    readonly property string stateText: connected === true ? qsTr("Connected")
+                                                           : connected === false
+                                                             ? qsTr("Disconnected")
+                                                             : qsTr("State unknown")
+    readonly property string supportText: supported === true ? qsTr("monitored")
+                                                             : supported === false
+                                                               ? qsTr("no monitoring") : ""
+    readonly property string detail: supportText === "" ? stateText
+                                                        : stateText + " · " + supportText
+
+    signal chosen
+    signal filterRequested
+
+    height: Theme.em(3.5)
+
+    Accessible.role: Accessible.ListItem
+    Accessible.name: Format.fill(qsTr("%1, %2, %n error(s)", "station, state", errorCount), name,
+                                 detail)
+    Accessible.selectable: true
+    Accessible.selected: focused
+    Accessible.focused: current
+
+    onSupportRevisionChanged: support.ask(stationID)
+    Component.onCompleted: support.ask(stationID)
+
+    Rectangle {
+        anchors.fill: parent
+        color: row.focused ? Theme.selection : mouse.containsMouse ? Theme.hover : "transparent"
+    }
+
+    Rectangle {
+        visible: row.focused
+        width: Theme.em(0.25)
+        height: parent.height
+        color: Theme.accent
+    }
+
+    MouseArea {
+        id: mouse
+
+        anchors.fill: parent
+        hoverEnabled: true
+        onClicked: row.chosen()
+    }
+
+    RowLayout {
+        anchors.fill: parent
+        anchors.leftMargin: Theme.pad + Theme.em(1.2) * row.modelData.depth
+        anchors.rightMargin: Theme.pad
+        spacing: Theme.gap
+
+        StateMark {
+            id: mark
+
+            opacity: row.drawn ? 1 : 0
+            status: row.connected === true ? "good" : row.connected === false ? "critical"
+                                                                              : "unknown"
+        }
+
+        ColumnLayout {
+            Layout.fillWidth: true
+            spacing: 0
+
+            PlainLabel {
+                Layout.fillWidth: true
+                text: row.name
+                font.weight: row.focused ? Font.Bold : Font.Normal
+            }
+
+            PlainLabel {
+                Layout.fillWidth: true
+                text: row.detail
+                font.pixelSize: Theme.smallFont
+                color: Theme.mutedText
+            }
+        }
+
+        ErrorBadge {
+            opacity: row.drawn ? 1 : 0
+            count: row.errorCount
+            onClicked: row.filterRequested()
+        }
+    }
+
+    RowRing {
+        visible: row.current
+    }
+}

@@ -1,0 +1,627 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de_DE">
+<context>
+    <name>CapacityBanner</name>
+    <message>
+        <source>%1 has reached %2 of its capacity</source>
+        <comment>server and percentage</comment>
+        <translation>%1 hat %2 der Kapazität erreicht</translation>
+    </message>
+    <message>
+        <source>A server</source>
+        <translation>Ein Server</translation>
+    </message>
+    <message>
+        <source>Dismiss the warning</source>
+        <translation>Warnung ausblenden</translation>
+    </message>
+</context>
+<context>
+    <name>ClientPanel</name>
+    <message>
+        <source>unknown</source>
+        <translation>unbekannt</translation>
+    </message>
+    <message>
+        <source>%1 of this computer: %2</source>
+        <comment>usage and value</comment>
+        <translation>%1 dieses Rechners: %2</translation>
+    </message>
+    <message>
+        <source>This computer</source>
+        <translation>Dieser Rechner</translation>
+    </message>
+    <message>
+        <source>last %1</source>
+        <translation>letzte %1</translation>
+    </message>
+    <message>
+        <source>CPU</source>
+        <translation>CPU</translation>
+    </message>
+    <message>
+        <source>Memory</source>
+        <translation>Speicher</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionState</name>
+    <message>
+        <source>Connected</source>
+        <translation>Verbunden</translation>
+    </message>
+    <message>
+        <source>Server connection lost</source>
+        <translation>Verbindung zum Server verloren</translation>
+    </message>
+    <message>
+        <source>Nothing is known about the site</source>
+        <translation>Über den Standort ist nichts bekannt</translation>
+    </message>
+    <message>
+        <source>since %1</source>
+        <translation>seit %1</translation>
+    </message>
+    <message>
+        <source>Nothing is known since %1 (%2)</source>
+        <comment>time and age</comment>
+        <translation>Seit %1 ist nichts bekannt (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>DashboardHeader</name>
+    <message>
+        <source>Local time: %1</source>
+        <translation>Ortszeit: %1</translation>
+    </message>
+    <message>
+        <source>Switch to light colours</source>
+        <translation>Helle Farben verwenden</translation>
+    </message>
+    <message>
+        <source>Switch to dark colours</source>
+        <translation>Dunkle Farben verwenden</translation>
+    </message>
+</context>
+<context>
+    <name>ErrorActionBar</name>
+    <message>
+        <source>Snooze</source>
+        <translation>Zurückstellen</translation>
+    </message>
+    <message>
+        <source>Snooze %1</source>
+        <comment>number of errors</comment>
+        <translation>%1 zurückstellen</translation>
+    </message>
+    <message>
+        <source>Errors</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>unbekannt</translation>
+    </message>
+    <message>
+        <source>%1</source>
+        <comment>number of errors</comment>
+        <translation>%1</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <comment>shown and all errors</comment>
+        <translation>%1 von %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n selected</source>
+        <translation>
+            <numerusform>%n ausgewählt</numerusform>
+            <numerusform>%n ausgewählt</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Snooze the selected disconnections (S)</source>
+        <translation>Die ausgewählten Verbindungsfehler zurückstellen (S)</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Copy the selected errors (Ctrl+C)</source>
+        <translation>Die ausgewählten Fehler kopieren (Strg+C)</translation>
+    </message>
+    <message>
+        <source>Reconnect</source>
+        <translation>Neu verbinden</translation>
+    </message>
+    <message>
+        <source>Ask the server to reconnect what is disconnected</source>
+        <translation>Den Server bitten, Getrenntes neu zu verbinden</translation>
+    </message>
+    <message>
+        <source>All disconnected cameras</source>
+        <translation>Alle getrennten Kameras</translation>
+    </message>
+    <message>
+        <source>All disconnected sub-stations</source>
+        <translation>Alle getrennten Unterstationen</translation>
+    </message>
+</context>
+<context>
+    <name>ErrorBadge</name>
+    <message numerus="yes">
+        <source>Show the %n error(s)</source>
+        <translation>
+            <numerusform>Den Fehler zeigen</numerusform>
+            <numerusform>Die %n Fehler zeigen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Show only these errors (F)</source>
+        <translation>Nur diese Fehler zeigen (F)</translation>
+    </message>
+</context>
+<context>
+    <name>ErrorMenu</name>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Show the station&apos;s usage</source>
+        <translation>Auslastung der Station zeigen</translation>
+    </message>
+</context>
+<context>
+    <name>ErrorRow</name>
+    <message>
+        <source>unknown</source>
+        <translation>unbekannt</translation>
+    </message>
+    <message>
+        <source>%1, %2, %3, since %4</source>
+        <comment>kind, device, station, time</comment>
+        <translation>%1, %2, %3, seit %4</translation>
+    </message>
+</context>
+<context>
+    <name>ErrorTable</name>
+    <message>
+        <source>Errors</source>
+        <translation>Fehler</translation>
+    </message>
+</context>
+<context>
+    <name>ErrorTableHeader</name>
+    <message>
+        <source>Error</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Device and station</source>
+        <translation>Gerät und Station</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>Gerät</translation>
+    </message>
+    <message>
+        <source>Station</source>
+        <translation>Station</translation>
+    </message>
+    <message>
+        <source>Age</source>
+        <translation>Alter</translation>
+    </message>
+    <message>
+        <source>Age and time</source>
+        <translation>Alter und Zeit</translation>
+    </message>
+    <message>
+        <source>Since</source>
+        <translation>Seit</translation>
+    </message>
+</context>
+<context>
+    <name>ErrorsEmptyState</name>
+    <message>
+        <source>Server connection lost</source>
+        <translation>Verbindung zum Server verloren</translation>
+    </message>
+    <message numerus="yes">
+        <source>A filter hides %n error(s)</source>
+        <translation>
+            <numerusform>Ein Filter verbirgt %n Fehler</numerusform>
+            <numerusform>Ein Filter verbirgt %n Fehler</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Checking the site</source>
+        <translation>Der Standort wird geprüft</translation>
+    </message>
+    <message>
+        <source>No errors</source>
+        <translation>Keine Fehler</translation>
+    </message>
+    <message>
+        <source>Nothing is known about the site since %1.</source>
+        <translation>Über den Standort ist seit %1 nichts bekannt.</translation>
+    </message>
+    <message>
+        <source>Nothing is known about the site.</source>
+        <translation>Über den Standort ist nichts bekannt.</translation>
+    </message>
+    <message>
+        <source>Press Esc to show all errors.</source>
+        <translation>Esc zeigt wieder alle Fehler.</translation>
+    </message>
+    <message>
+        <source>The server has just been connected; the state of the devices follows.</source>
+        <translation>Der Server ist gerade erst verbunden; der Zustand der Geräte folgt.</translation>
+    </message>
+    <message>
+        <source>All is well: no camera, station or volume reports an error.</source>
+        <translation>Alles in Ordnung: Keine Kamera, keine Station und kein Datenträger meldet einen Fehler.</translation>
+    </message>
+</context>
+<context>
+    <name>ErrorsPane</name>
+    <message numerus="yes">
+        <source>%n error(s) copied</source>
+        <translation>
+            <numerusform>%n Fehler kopiert</numerusform>
+            <numerusform>%n Fehler kopiert</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Asked to reconnect all disconnected cameras</source>
+        <translation>Neuverbindung aller getrennten Kameras angefordert</translation>
+    </message>
+    <message>
+        <source>Asked to reconnect all disconnected sub-stations</source>
+        <translation>Neuverbindung aller getrennten Unterstationen angefordert</translation>
+    </message>
+</context>
+<context>
+    <name>FilterBar</name>
+    <message>
+        <source>Category</source>
+        <translation>Kategorie</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Alle</translation>
+    </message>
+    <message>
+        <source>Stations</source>
+        <translation>Stationen</translation>
+    </message>
+    <message>
+        <source>Cameras</source>
+        <translation>Kameras</translation>
+    </message>
+    <message>
+        <source>Filter by error or device</source>
+        <translation>Nach Fehler oder Gerät filtern</translation>
+    </message>
+</context>
+<context>
+    <name>FilterNotice</name>
+    <message numerus="yes">
+        <source>%1 and %n more station(s)</source>
+        <translation>
+            <numerusform>%1 und %n weitere Station</numerusform>
+            <numerusform>%1 und %n weitere Stationen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>stations only</source>
+        <translation>nur Stationen</translation>
+    </message>
+    <message>
+        <source>cameras only</source>
+        <translation>nur Kameras</translation>
+    </message>
+    <message>
+        <source>“%1”</source>
+        <translation>„%1“</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: hides %n error(s)</source>
+        <comment>filter conditions</comment>
+        <translation>
+            <numerusform>%1: verbirgt %n Fehler</numerusform>
+            <numerusform>%1: verbirgt %n Fehler</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Clear (Esc)</source>
+        <translation>Aufheben (Esc)</translation>
+    </message>
+</context>
+<context>
+    <name>FocusedStationPanel</name>
+    <message>
+        <source>Choose a station to see its usage.</source>
+        <translation>Wählen Sie eine Station, um ihre Auslastung zu sehen.</translation>
+    </message>
+    <message>
+        <source>Nothing is known while the server is away.</source>
+        <translation>Ohne den Server ist nichts bekannt.</translation>
+    </message>
+    <message>
+        <source>This station does not support monitoring.</source>
+        <translation>Diese Station unterstützt keine Überwachung.</translation>
+    </message>
+    <message>
+        <source>Waiting for the first report.</source>
+        <translation>Warten auf den ersten Bericht.</translation>
+    </message>
+    <message>
+        <source>Usage</source>
+        <translation>Auslastung</translation>
+    </message>
+    <message>
+        <source>No report for %1</source>
+        <translation>Kein Bericht seit %1</translation>
+    </message>
+    <message>
+        <source>Usage of %1</source>
+        <translation>Auslastung von %1</translation>
+    </message>
+</context>
+<context>
+    <name>Format</name>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 min</translation>
+    </message>
+    <message>
+        <source>%1 h %2 min</source>
+        <translation>%1 h %2 min</translation>
+    </message>
+    <message>
+        <source>%1 d %2 h</source>
+        <translation>%1 d %2 h</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>bit/s</source>
+        <translation>bit/s</translation>
+    </message>
+    <message>
+        <source>kbit/s</source>
+        <translation>kbit/s</translation>
+    </message>
+    <message>
+        <source>Mbit/s</source>
+        <translation>Mbit/s</translation>
+    </message>
+    <message>
+        <source>Gbit/s</source>
+        <translation>Gbit/s</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <comment>amount and unit</comment>
+        <translation>%1 %2</translation>
+    </message>
+</context>
+<context>
+    <name>NoticeBar</name>
+    <message>
+        <source>Dismiss the notice</source>
+        <translation>Hinweis ausblenden</translation>
+    </message>
+</context>
+<context>
+    <name>OverviewPage</name>
+    <message>
+        <source>Stations</source>
+        <translation>Stationen</translation>
+    </message>
+    <message>
+        <source>Usage</source>
+        <translation>Auslastung</translation>
+    </message>
+    <message>
+        <source>Errors</source>
+        <translation>Fehler</translation>
+    </message>
+</context>
+<context>
+    <name>SnoozeMenu</name>
+    <message>
+        <source>15 minutes</source>
+        <translation>15 Minuten</translation>
+    </message>
+    <message>
+        <source>1 hour</source>
+        <translation>1 Stunde</translation>
+    </message>
+    <message>
+        <source>8 hours</source>
+        <translation>8 Stunden</translation>
+    </message>
+    <message>
+        <source>Snooze</source>
+        <translation>Zurückstellen</translation>
+    </message>
+    <message>
+        <source>Until…</source>
+        <translation>Bis …</translation>
+    </message>
+</context>
+<context>
+    <name>SnoozeRequests</name>
+    <message numerus="yes">
+        <source>%n error(s) snoozed</source>
+        <translation>
+            <numerusform>%n Fehler zurückgestellt</numerusform>
+            <numerusform>%n Fehler zurückgestellt</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The server refused %n snooze(s)</source>
+        <translation>
+            <numerusform>Der Server lehnte %n Zurückstellung ab</numerusform>
+            <numerusform>Der Server lehnte %n Zurückstellungen ab</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n snooze(s) could not be sent</source>
+        <translation>
+            <numerusform>%n Zurückstellung konnte nicht gesendet werden</numerusform>
+            <numerusform>%n Zurückstellungen konnten nicht gesendet werden</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Waiting for the answer to %n snooze(s)</source>
+        <translation>
+            <numerusform>Warten auf die Antwort zu %n Zurückstellung</numerusform>
+            <numerusform>Warten auf die Antwort zu %n Zurückstellungen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>No answer to %n snooze(s)</source>
+        <translation>
+            <numerusform>Keine Antwort auf %n Zurückstellung</numerusform>
+            <numerusform>Keine Antwort auf %n Zurückstellungen</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>SnoozeUntilDialog</name>
+    <message>
+        <source>Snooze until</source>
+        <translation>Zurückstellen bis</translation>
+    </message>
+    <message>
+        <source>Year</source>
+        <translation>Jahr</translation>
+    </message>
+    <message>
+        <source>Month</source>
+        <translation>Monat</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <translation>Tag</translation>
+    </message>
+    <message>
+        <source>Hour</source>
+        <translation>Stunde</translation>
+    </message>
+    <message>
+        <source>Minute</source>
+        <translation>Minute</translation>
+    </message>
+    <message>
+        <source>%1, in %2</source>
+        <comment>time and duration</comment>
+        <translation>%1, in %2</translation>
+    </message>
+    <message>
+        <source>This moment is over; choose a later one</source>
+        <translation>Dieser Zeitpunkt ist vorbei; wählen Sie einen späteren</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Snooze</source>
+        <translation>Zurückstellen</translation>
+    </message>
+</context>
+<context>
+    <name>StationChoice</name>
+    <message>
+        <source>All stations</source>
+        <translation>Alle Stationen</translation>
+    </message>
+    <message>
+        <source>Station</source>
+        <translation>Station</translation>
+    </message>
+</context>
+<context>
+    <name>StationRow</name>
+    <message>
+        <source>Without a station</source>
+        <translation>Ohne Station</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Verbunden</translation>
+    </message>
+    <message>
+        <source>Disconnected</source>
+        <translation>Getrennt</translation>
+    </message>
+    <message>
+        <source>State unknown</source>
+        <translation>Zustand unbekannt</translation>
+    </message>
+    <message>
+        <source>monitored</source>
+        <translation>überwacht</translation>
+    </message>
+    <message>
+        <source>no monitoring</source>
+        <translation>nicht überwacht</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1, %2, %n error(s)</source>
+        <comment>station, state</comment>
+        <translation>
+            <numerusform>%1, %2, %n Fehler</numerusform>
+            <numerusform>%1, %2, %n Fehler</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>StationsPane</name>
+    <message>
+        <source>Stations</source>
+        <translation>Stationen</translation>
+    </message>
+    <message>
+        <source>No stations</source>
+        <translation>Keine Stationen</translation>
+    </message>
+</context>
+<context>
+    <name>UsageCard</name>
+    <message>
+        <source>threshold %1</source>
+        <translation>Schwellwert %1</translation>
+    </message>
+    <message>
+        <source>%1: %2, %3</source>
+        <comment>usage, value, detail</comment>
+        <translation>%1: %2, %3</translation>
+    </message>
+    <message>
+        <source>%1: not known</source>
+        <translation>%1: nicht bekannt</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>unbekannt</translation>
+    </message>
+    <message>
+        <source>over threshold %1</source>
+        <translation>über Schwellwert %1</translation>
+    </message>
+</context>
+</TS>

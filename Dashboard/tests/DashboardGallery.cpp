@@ -1,0 +1,244 @@
+// Draws the dashboard in each of its states and saves the pictures into the folder that is named on
+// the command line. Fails when a picture cannot be made or the QML engine warns.
+
+#include "FakePlugin.h"
+#include "SampleSite.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QGuiApplication>
+#include <QQmlComponent>
+#include <QQmlEngine>
+#include <QQmlExtensionPlugin>
+#include <QQuickItem>
+#include <QQuickView>
+#include <QTest>
+#include <QTranslator>
+#include <functional>
+
+Q_IMPORT_QML_PLUGIN(DashboardPlugin)
+
+namespace {
+
+struct Scene
+{
+    QString name;
+    QSize size{1280, 800};
+    bool dark = true;
+    QString language = QStringLiteral("en");
+    double fontScale = 1;
+    bool connected = true;
+    /// Whether every station is connected.
+    bool well = false;
+    /// What happens before the picture is taken.
+    std::function<void(QQuickView &, FakePlugin &)> act = [](QQuickView &, FakePlugin &) {};
+};
+
+bool warned = false;
+
+void failOnWarnings(QtMsgType type, const QMessageLogContext &, const QString &message)
+{
+    warned = warned || type != QtDebugMsg;
+    fprintf(stderr, "%s\n", qPrintable(message));
+}
+
+void fill(QQuickView &, FakePlugin &plugin)
+{
+    SampleSite::fillErrors(plugin);
+    SampleSite::fillUsage(plugin);
+    SampleSite::fillClient(plugin);
+}
+
+void fillAndWarn(QQuickView &view, FakePlugin &plugin)
+{
+    fill(view, plugin);
+    Q_EMIT plugin.notifyServerReachingLimited(QStringLiteral("Recording server 2"), 93.4);
+}
+
+void fillAndFilterAway(QQuickView &view, FakePlugin &plugin)
+{
+    fill(view, plugin);
+    QTest::keyClick(&view, Qt::Key_F, Qt::ControlModifier);
+    for (const QChar &letter : QStringLiteral("gate 9"))
+        QTest::keyClick(&view, letter.toLatin1());
+    QTest::keyClick(&view, Qt::Key_Return);
+}
+
+void fillAndSelect(QQuickView &view, FakePlugin &plugin)
+{
+    fillAndWarn(view, plugin);
+    QTest::keyClick(&view, Qt::Key_Down);
+    for (int i = 0; i < 4; ++i)
+        QTest::keyClick(&view, Qt::Key_Down, Qt::ShiftModifier);
+}
+
+void fillAndOpenMenu(QQuickView &view, FakePlugin &plugin)
+{
+    fillAndSelect(view, plugin);
+    QTest::keyClick(&view, Qt::Key_S);
+    QTest::keyClick(&view, Qt::Key_Down);
+}
+
+void fillAndAskMoment(QQuickView &view, FakePlugin &plugin)
+{
+    fillAndOpenMenu(view, plugin);
+    for (int i = 0; i < 3; ++i)
+        QTest::keyClick(&view, Qt::Key_Down);
+    QTest::keyClick(&view, Qt::Key_Return);
+}
+
+void fillAndSnooze(QQuickView &view, FakePlugin &plugin)
+{
+    fillAndOpenMenu(view, plugin);
+    QTest::keyClick(&view, Qt::Key_Return);
+    Q_EMIT plugin.setSnoozeResponse(false);
+}
+
+void fillAndShowUsage(QQuickView &view, FakePlugin &plugin)
+{
+    fill(view, plugin);
+    QTest::keyClick(&view, Qt::Key_Down);
+    QTest::keyClick(&view, Qt::Key_Return);
+}
+
+/// The button below @p item that bears @p text, or null.
+QQuickItem *findButton(QQuickItem *item, const QString &text)
+{
+    if (item->inherits("QQuickAbstractButton") && item->property("text") == text)
+        return item;
+    for (QQuickItem *child : item->childItems()) {
+        if (QQuickItem *button = findButton(child, text))
+            return button;
+    }
+    return nullptr;
+}
+
+void fillAndShowStations(QQuickView &view, FakePlugin &plugin)
+{
+    fill(view, plugin);
+    QMetaObject::invokeMethod(findButton(view.rootObject(), QStringLiteral("Stations")), "clicked");
+    view.requestUpdate();
+}
+
+void fillWithThousands(QQuickView &view, FakePlugin &plugin)
+{
+    fill(view, plugin);
+    plugin.addCameraErrors(20000, SampleSite::now() - 100000000);
+    plugin.countErrors();
+    QTest::qWait(100);
+    QTest::keyClick(&view, Qt::Key_End);
+}
+
+QList<Scene> scenes()
+{
+    return {
+        {.name = QStringLiteral("dark"), .act = fill},
+        {.name = QStringLiteral("light"), .dark = false, .act = fill},
+        {.name = QStringLiteral("german"), .language = QStringLiteral("de"), .act = fillAndSelect},
+        {.name = QStringLiteral("large-font"), .fontScale = 2, .act = fillAndWarn},
+        {.name = QStringLiteral("small"), .size = {1024, 640}, .act = fill},
+        {.name = QStringLiteral("small-german-light"),
+         .size = {1024, 640},
+         .dark = false,
+         .language = QStringLiteral("de"),
+         .act = fillAndSelect},
+        {.name = QStringLiteral("small-large-font"),
+         .size = {1024, 640},
+         .fontScale = 2,
+         .act = fill},
+        {.name = QStringLiteral("small-usage"), .size = {1024, 640}, .act = fillAndShowUsage},
+        {.name = QStringLiteral("small-large-font-usage"),
+         .size = {1024, 640},
+         .fontScale = 2,
+         .act = fillAndShowUsage},
+        {.name = QStringLiteral("small-large-font-stations"),
+         .size = {1024, 640},
+         .fontScale = 2,
+         .act = fillAndShowStations},
+        {.name = QStringLiteral("4k"), .size = {3840, 2160}, .act = fill},
+        {.name = QStringLiteral("4k-large-font"),
+         .size = {3840, 2160},
+         .fontScale = 2,
+         .act = fill},
+        {.name = QStringLiteral("lost"), .connected = false},
+        {.name = QStringLiteral("lost-light"), .dark = false, .connected = false},
+        {.name = QStringLiteral("well"),
+         .well = true,
+         .act = [](QQuickView &, FakePlugin &plugin) { SampleSite::fillClient(plugin); }},
+        {.name = QStringLiteral("filtered"), .act = fillAndFilterAway},
+        {.name = QStringLiteral("menu"), .act = fillAndOpenMenu},
+        {.name = QStringLiteral("moment"), .act = fillAndAskMoment},
+        {.name = QStringLiteral("notice"), .dark = false, .act = fillAndSnooze},
+        {.name = QStringLiteral("thousands"), .act = fillWithThousands},
+    };
+}
+
+/// Lets the time of the dashboard stand still at the moment of the sample.
+void prepare(QQmlEngine &engine, const Scene &scene)
+{
+    engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
+    QQmlComponent component(&engine);
+    component.setData("import QtQml; import Dashboard\n"
+                      "QtObject { function prepare(now, dark) {"
+                      " Clock.running = false; Clock.now = now; Theme.dark = dark; } }",
+                      QUrl());
+    const std::unique_ptr<QObject> settings(component.create());
+    QMetaObject::invokeMethod(settings.get(), "prepare", Q_ARG(QVariant, double(SampleSite::now())),
+                              Q_ARG(QVariant, scene.dark));
+}
+
+bool draw(const Scene &scene, const QDir &folder)
+{
+    QFont font = QGuiApplication::font();
+    font.setPixelSize(qRound(12 * scene.fontScale));
+    QGuiApplication::setFont(font);
+    QTranslator translator;
+    if (!translator.load(QStringLiteral(":/i18n/Dashboard_%1").arg(scene.language)))
+        return false;
+    QCoreApplication::installTranslator(&translator);
+
+    FakePlugin plugin;
+    QQuickView view;
+    prepare(*view.engine(), scene);
+    view.setResizeMode(QQuickView::SizeRootObjectToView);
+    view.setInitialProperties({
+        {QStringLiteral("plugin"), QVariant::fromValue<QObject *>(&plugin)},
+        {QStringLiteral("siteName"), QStringLiteral("Harbour North")},
+        {QStringLiteral("serverConnected"), scene.connected},
+        {QStringLiteral("connectionSince"),
+         QDateTime::fromMSecsSinceEpoch(SampleSite::now() - 5 * 60 * 1000)},
+        {QStringLiteral("stations"), SampleSite::stations(scene.well)},
+    });
+    view.setSource(QUrl(QStringLiteral("qrc:/qt/qml/Dashboard/DashboardView.qml")));
+    view.resize(scene.size);
+    view.show();
+    view.requestActivate();
+    if (!QTest::qWaitForWindowActive(&view))
+        return false;
+    scene.act(view, plugin);
+    QTest::qWait(400);
+    return view.grabWindow().save(folder.filePath(scene.name + QStringLiteral(".png")));
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    qputenv("TZ", "Europe/Berlin");
+    QGuiApplication app(argc, argv);
+    const QStringList arguments = app.arguments();
+    if (arguments.size() < 2) {
+        fprintf(stderr, "usage: %s FOLDER [SCENE...]\n", argv[0]);
+        return 2;
+    }
+    const QDir folder(arguments.at(1));
+    folder.mkpath(QStringLiteral("."));
+    qInstallMessageHandler(failOnWarnings);
+    const QStringList wanted = arguments.mid(2);
+    bool drawn = true;
+    for (const Scene &scene : scenes()) {
+        if (wanted.isEmpty() || wanted.contains(scene.name))
+            drawn = draw(scene, folder) && drawn;
+    }
+    return drawn && !warned ? 0 : 1;
+}

@@ -1,0 +1,107 @@
+#include "SampleSite.h"
+
+#include "FakePlugin.h"
+
+#include <QDateTime>
+#include <cmath>
+
+namespace {
+
+constexpr qint64 Second = 1000;
+constexpr qint64 Minute = 60 * Second;
+constexpr qint64 Hour = 60 * Minute;
+
+QVariantMap station(const QString &id, const QString &name, const QString &parentID, bool connected)
+{
+    return {{QStringLiteral("stationID"), id},
+            {QStringLiteral("name"), name},
+            {QStringLiteral("parentID"), parentID},
+            {QStringLiteral("connected"), connected}};
+}
+
+QVariantMap network(const QString &name, double percentage, double bandwidth)
+{
+    return {{QStringLiteral("networkInterface"), name},
+            {QStringLiteral("networkPercentage"), percentage},
+            {QStringLiteral("networkBandwidth"), bandwidth}};
+}
+
+double wave(int step, double middle, double height, double length)
+{
+    return middle + height * std::sin(step / length) + height / 3 * std::sin(step * 1.7);
+}
+
+} // namespace
+
+namespace SampleSite {
+
+qint64 now()
+{
+    return QDateTime(QDate(2024, 5, 14), QTime(14, 7, 33)).toMSecsSinceEpoch();
+}
+
+QVariantList stations(bool well)
+{
+    return {
+        station(QStringLiteral("lobby"), QStringLiteral("Lobby NVR"), QString(), true),
+        station(QStringLiteral("quay"), QStringLiteral("Quay NVR"), QString(), true),
+        station(QStringLiteral("quay/crane"), QStringLiteral("Crane 3"), QStringLiteral("quay"),
+                well),
+        station(QStringLiteral("parking"), QStringLiteral("Parking deck"), QString(), well),
+        station(QStringLiteral("archive"), QStringLiteral("Archive"), QString(), true),
+    };
+}
+
+void fillErrors(FakePlugin &plugin)
+{
+    const QString lobby = QStringLiteral("Lobby NVR");
+    const QString quay = QStringLiteral("Quay NVR");
+    const auto camera = [&plugin](const QString &stationID, const QString &name,
+                                  const QString &cameraName, qint64 age) {
+        plugin.addError(3, stationID, stationID + u'/' + cameraName, {name, cameraName},
+                        now() - age);
+    };
+    plugin.addError(7, QStringLiteral("archive"), QStringLiteral("g2"),
+                    {QStringLiteral("Archive"), QStringLiteral("Entrances")}, now() - 52 * Hour);
+    plugin.addError(5, QStringLiteral("archive"), QString(), {QStringLiteral("Archive")},
+                    now() - 27 * Hour);
+    camera(QStringLiteral("lobby"), lobby, QStringLiteral("Revolving door"),
+           3 * Hour + 20 * Minute);
+    camera(QStringLiteral("quay"), quay, QStringLiteral("Berth 4 west"), 95 * Minute);
+    camera(QStringLiteral("quay"), quay, QStringLiteral("Berth 4 east"), 94 * Minute);
+    plugin.addError(4, QStringLiteral("quay/crane"), QString(), {QStringLiteral("Crane 3")},
+                    now() - 41 * Minute);
+    plugin.addError(4, QStringLiteral("parking"), QString(), {QStringLiteral("Parking deck")},
+                    now() - 12 * Minute);
+    camera(QStringLiteral("lobby"), lobby, QStringLiteral("Reception"), 6 * Minute);
+    plugin.addError(0, QStringLiteral("quay"), QString(), {quay}, now() - 3 * Minute);
+    plugin.addError(2, QStringLiteral("quay"), QStringLiteral("eth1"), {quay}, now() - 80 * Second);
+    plugin.addError(1, QStringLiteral("lobby"), QString(), {lobby}, now() - 44 * Second);
+    camera(QStringLiteral("quay"), quay, QStringLiteral("Gate B, licence plates"), 9 * Second);
+    plugin.countErrors();
+    Q_EMIT plugin.isSupportSystemMonitor(QStringLiteral("lobby"), true);
+    Q_EMIT plugin.isSupportSystemMonitor(QStringLiteral("quay"), true);
+    Q_EMIT plugin.isSupportSystemMonitor(QStringLiteral("archive"), false);
+}
+
+void fillUsage(FakePlugin &plugin)
+{
+    plugin.setFocusStationResource(QStringLiteral("quay"));
+    for (int step = 0; step < 48; ++step) {
+        plugin.report(qRound(std::min(97.0, 60 + 0.8 * step + wave(step, 0, 6, 4))),
+                      qRound(wave(step, 63, 3, 9)),
+                      {network(QStringLiteral("eth0"), wave(step, 18, 6, 5), 182e6),
+                       network(QStringLiteral("eth1"), wave(step, 54, 9, 6), 561e6)});
+    }
+}
+
+void fillClient(FakePlugin &plugin)
+{
+    for (int step = 0; step < 240; ++step) {
+        const bool failed = step > 100 && step < 130;
+        Q_EMIT plugin.clientResourceChanged(failed ? -100 : qRound(wave(step, 22, 9, 15)),
+                                            qRound(wave(step, 47, 2, 40)));
+    }
+}
+
+} // namespace SampleSite

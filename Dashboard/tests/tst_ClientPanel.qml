@@ -1,0 +1,80 @@
+import QtQuick
+import QtTest
+import Dashboard
+
+Item {
+    id: root
+
+    width: 300
+    height: 200
+
+    Component {
+        id: panelComponent
+
+        ClientPanel {
+            width: 300
+            surface: null
+        }
+    }
+
+    DashboardCase {
+        name: "ClientPanel"
+
+        property var plugin
+        property ClientPanel panel
+
+        function prepare() {
+            plugin = makePlugin();
+            panel = make(panelComponent, { "surface": plugin });
+        }
+
+        function values() {
+            return [inWindowValue("CPU"), inWindowValue("Memory")];
+        }
+
+        function inWindowValue(name) {
+            const meter = itemsWhere(panel, item => item.name === name && "valueText" in item)[0];
+            return meter.valueText;
+        }
+
+        function test_beforeTheFirstSampleNothingIsKnown() {
+            prepare();
+            compare(values(), ["unknown", "unknown"]);
+        }
+
+        function test_showsTheLatestSample() {
+            prepare();
+            plugin.clientResourceChanged(10, 20);
+            plugin.clientResourceChanged(57, 42);
+            compare(values(), ["57 %", "42 %"]);
+            compare(panel.history.cpu, [10, 57]);
+        }
+
+        function test_failedSampleIsUnknownAndNeverANumber() {
+            prepare();
+            plugin.clientResourceChanged(57, 42);
+            plugin.clientResourceChanged(-100, 43);
+            compare(values(), ["unknown", "43 %"]);
+            verify(texts(panel).every(text => !text.includes("100")));
+            compare(panel.history.cpu, [57, null]);
+            plugin.clientResourceChanged(58, 43);
+            compare(values(), ["58 %", "43 %"]);
+        }
+
+        function test_keepsFiveMinutes() {
+            prepare();
+            for (let i = 0; i < 310; ++i)
+                plugin.clientResourceChanged(i % 100, 1);
+            compare(panel.history.cpu.length, 300);
+            compare(panel.history.cpu[299], 9);
+            compare(panel.history.cpu[0], 10);
+        }
+
+        function test_accessibleNamesTellTheValues() {
+            prepare();
+            plugin.clientResourceChanged(57, 42);
+            verify(inWindow("CPU of this computer: 57 %"));
+            verify(inWindow("Memory of this computer: 42 %"));
+        }
+    }
+}

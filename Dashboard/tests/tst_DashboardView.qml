@@ -1,0 +1,197 @@
+import QtQuick
+import QtQuick.Controls.Basic
+import QtTest
+import Dashboard
+
+Item {
+    id: root
+
+    width: 1400
+    height: 800
+
+    Component {
+        id: viewComponent
+
+        DashboardView {
+            siteName: "Harbour"
+            serverConnected: true
+            stations: [
+                { "stationID": "a", "name": "Lobby", "parentID": "", "connected": true },
+                { "stationID": "b", "name": "Quay", "parentID": "", "connected": true }
+            ]
+        }
+    }
+
+    DashboardCase {
+        name: "DashboardView"
+
+        property var plugin
+        property DashboardView view
+
+        function prepare(properties) {
+            plugin = makePlugin();
+            plugin.addError(3, "b", "b/1", ["Quay", "Gate"], now - minute);
+            plugin.addError(4, "a", "", ["Lobby"], now - hour);
+            plugin.countErrors();
+            view = make(viewComponent, Object.assign({ "plugin": plugin }, properties ?? {}));
+            view.forceActiveFocus();
+            waitForRendering(view);
+        }
+
+        function pane(type) {
+            return itemsWhere(view, item => item instanceof type)[0];
+        }
+
+        /// The control that has the keyboard; a list has it when one of its rows does.
+        function focusItem() {
+            return itemsWhere(view, item => item.activeFocus && item.activeFocusOnTab)[0];
+        }
+
+        /// What the Tab key reaches, starting anywhere, until it comes back.
+        function tabRound(key) {
+            const round = [];
+            for (let i = 0; i < 60; ++i) {
+                keyClick(key);
+                const item = focusItem();
+                if (round.includes(item))
+                    return round;
+                round.push(item);
+            }
+            fail("the Tab key never comes back");
+        }
+
+        function test_fillsItsParent() {
+            prepare();
+            compare([view.width, view.height], [root.width, root.height]);
+        }
+
+        function test_startsOnTheErrorList() {
+            prepare();
+            verify(pane(ErrorsPane).hasFocus);
+            keyClick(Qt.Key_Home);
+            verify(hasText(view, "2 · 1 selected"));
+        }
+
+        function test_showsTheCountsOfThePlugin() {
+            prepare();
+            verify(inWindow("Quay, Connected, 1 error(s)"));
+            plugin.addError(3, "b", "b/2", ["Quay", "Pier"], now);
+            plugin.countErrors();
+            verify(inWindow("Quay, Connected, 2 error(s)"));
+        }
+
+        function test_tabReachesEveryControlBothWays() {
+            prepare();
+            plugin.notifyServerReachingLimited("Main", 95);
+            keyClick(Qt.Key_A, Qt.ControlModifier);
+            const controls = itemsWhere(view, item => item.visible && item.enabled
+                                                      && item.activeFocusOnTab);
+            verify(controls.length >= 10);
+            const forward = tabRound(Qt.Key_Tab);
+            const back = tabRound(Qt.Key_Backtab);
+            for (const control of controls) {
+                verify(forward.includes(control), control + " " + control.Accessible.name);
+                verify(back.includes(control), control + " " + control.Accessible.name);
+            }
+        }
+
+        function test_everyControlHasAnAccessibleName() {
+            prepare();
+            plugin.notifyServerReachingLimited("Main", 95);
+            const controls = itemsWhere(view, item => item.visible
+                                                      && (item.activeFocusOnTab
+                                                          || item instanceof AbstractButton));
+            for (const control of controls)
+                verify(control.Accessible.name !== "", control);
+        }
+
+        function test_focusIsSeen() {
+            prepare();
+            for (const item of tabRound(Qt.Key_Tab)) {
+                item.forceActiveFocus(Qt.TabFocusReason);
+                const marks = itemsWhere(view, mark => mark.visible && (mark instanceof FocusRing
+                                                                        || mark instanceof RowRing));
+                verify(marks.length === 1 || item instanceof ListView, item.Accessible.name);
+            }
+        }
+
+        function test_findKeyGoesToTheTextFilter() {
+            prepare();
+            keyClick(Qt.Key_F, Qt.ControlModifier);
+            verify(inWindow("Filter by error or device").activeFocus);
+        }
+
+        function test_escapeClearsTheFiltersFromAnywhere() {
+            prepare();
+            const filters = pane(ErrorsPane).filters;
+            filters.categories = ErrorKinds.cameraCategory;
+            keyClick(Qt.Key_Escape);
+            compare(filters.active, false);
+            keyClick(Qt.Key_F, Qt.ControlModifier);
+            keyClick("x");
+            keyClick(Qt.Key_Escape);
+            compare(inWindow("Filter by error or device").text, "");
+            filters.stationID = "a";
+            inWindow("Station").forceActiveFocus(Qt.TabFocusReason);
+            keyClick(Qt.Key_Escape);
+            compare(filters.active, false);
+        }
+
+        function test_lostServerShowsNothingGreen() {
+            prepare({ "serverConnected": false });
+            plugin.clearErrors();
+            plugin.countErrors();
+            waitForRendering(view);
+            const marks = itemsWhere(view, item => item instanceof StateMark && item.visible);
+            verify(marks.length >= 4);
+            compare(marks.filter(mark => mark.status === "good"), []);
+            verify(!hasText(view, "Connected"));
+        }
+
+        function test_capacityWarningPushesThePageDown() {
+            prepare();
+            const before = pane(ErrorsPane).mapToItem(view, 0, 0).y;
+            plugin.notifyServerReachingLimited("Main", 95);
+            tryVerify(() => pane(ErrorsPane).mapToItem(view, 0, 0).y > before);
+            click("Dismiss the warning");
+            tryVerify(() => pane(ErrorsPane).mapToItem(view, 0, 0).y === before);
+        }
+
+        function test_snoozeAnswerIsNoticed() {
+            prepare();
+            plugin.setSnoozeResponse(true);
+            verify(inWindow("1 error(s) snoozed"));
+        }
+
+        function test_stationsFollowTheHost() {
+            prepare();
+            view.stations = [{ "stationID": "a", "name": "Foyer", "parentID": "", "connected": false }];
+            tryVerify(() => inWindow("Foyer, Disconnected, 1 error(s)") !== null);
+            verify(hasText(view, "Foyer"));
+        }
+
+        function test_lightAndDarkDiffer() {
+            prepare();
+            const dark = grabImage(view).pixel(3, 400);
+            Theme.dark = false;
+            waitForRendering(view);
+            verify(!Qt.colorEqual(grabImage(view).pixel(3, 400), dark));
+        }
+
+        function test_thousandsOfErrorsCreateOnlyRowsInSight() {
+            prepare();
+            plugin.addCameraErrors(20000, now - 2 * hour);
+            tryVerify(() => hasText(view, "20002"));
+            const table = pane(ErrorTable);
+            tryCompare(table, "count", 20002);
+            keyClick(Qt.Key_End);
+            compare(table.currentIndex, 20001);
+            tryVerify(() => table.itemAtIndex(20001) !== null);
+            pane(ErrorsPane).filters.text = "Camera 1234";
+            tryVerify(() => hasText(view, "11 of 20002"));
+            pane(ErrorsPane).filters.clear();
+            tryCompare(table, "count", 20002);
+            verify(table.contentItem.children.length < 100);
+        }
+    }
+}

@@ -1,0 +1,166 @@
+import QtQuick
+import QtTest
+import Dashboard
+
+Item {
+    id: root
+
+    width: 300
+    height: 400
+
+    StationDirectory {
+        id: stations
+
+        stations: [
+            { "stationID": "a", "name": "Lobby", "parentID": "", "connected": true },
+            { "stationID": "b", "name": "Quay", "parentID": "", "connected": true },
+            { "stationID": "b/c", "name": "Crane", "parentID": "b", "connected": false }
+        ]
+        errorCounts: [{ "stationID": "b", "errorNumber": 5 }]
+    }
+
+    StationDirectory {
+        id: nobody
+    }
+
+    MonitoringSupport {
+        id: answers
+
+        surface: null
+    }
+
+    Component {
+        id: paneComponent
+
+        StationsPane {
+            anchors.fill: parent
+            directory: stations
+            support: answers
+            serverConnected: true
+        }
+    }
+
+    DashboardCase {
+        name: "StationsPane"
+
+        property var plugin
+        property StationsPane pane
+
+        function prepare(properties) {
+            plugin = makePlugin();
+            answers.surface = plugin;
+            answers.serverConnected = true;
+            pane = make(paneComponent, properties);
+            waitForRendering(pane);
+        }
+
+        function cleanup() {
+            answers.serverConnected = false;
+            answers.surface = null;
+            pane = null;
+        }
+
+        function row(name) {
+            return itemsWhere(pane, item => item instanceof StationRow && item.name === name)[0];
+        }
+
+        function mark(name) {
+            return itemsWhere(row(name), item => item instanceof StateMark)[0].status;
+        }
+
+        function test_rowTellsStateAndErrors() {
+            prepare();
+            compare(texts(row("Lobby")), ["Lobby", "Connected"]);
+            compare(texts(row("Quay")), ["Quay", "Connected", "5"]);
+            compare(texts(row("Crane")), ["Crane", "Disconnected"]);
+            compare([mark("Lobby"), mark("Crane")], ["good", "critical"]);
+            compare(row("Quay").Accessible.name, "Quay, Connected, 5 error(s)");
+        }
+
+        function test_withoutAServerNoStateIsKnown() {
+            prepare({ "serverConnected": false });
+            compare([mark("Lobby"), mark("Crane")], ["unknown", "unknown"]);
+            compare(texts(row("Lobby")), ["Lobby", "State unknown"]);
+        }
+
+        function test_asksEachStationForItsSupportAndShowsTheAnswer() {
+            prepare();
+            compare(plugin.calls.slice().sort(),
+                    ["a", "b", "b/c"].map(id => "checkSupportSystemMonitor " + id));
+            plugin.isSupportSystemMonitor("a", true);
+            plugin.isSupportSystemMonitor("b", false);
+            verify(hasText(row("Lobby"), "Connected · monitored"));
+            verify(hasText(row("Quay"), "Connected · no monitoring"));
+            verify(hasText(row("Crane"), "Disconnected"));
+        }
+
+        function test_asksAgainAfterAReconnection() {
+            prepare();
+            plugin.isSupportSystemMonitor("a", true);
+            plugin.forgetCalls();
+            answers.serverConnected = false;
+            verify(!hasText(row("Lobby"), "Connected · monitored"));
+            compare(plugin.calls, []);
+            answers.serverConnected = true;
+            compare(plugin.calls.length, 3);
+        }
+
+        function test_clickChooses() {
+            prepare();
+            const choices = spyOn(pane, "chosen");
+            mouseClick(row("Quay"), 60, 10);
+            compare(choices.signalArguments[0][0], "b");
+        }
+
+        function test_chosenStationIsMarked() {
+            prepare({ "focusedStation": "b" });
+            compare(row("Quay").Accessible.selected, true);
+            compare(row("Lobby").Accessible.selected, false);
+        }
+
+        function test_keysMoveAndChoose() {
+            prepare({ "focusedStation": "b" });
+            const choices = spyOn(pane, "chosen");
+            const list = itemsWhere(pane, item => item instanceof ListView)[0];
+            list.forceActiveFocus(Qt.TabFocusReason);
+            compare(row("Quay").current, true);
+            keyClick(Qt.Key_Down);
+            keyClick(Qt.Key_Return);
+            keyClick(Qt.Key_Home);
+            keyClick(Qt.Key_Space);
+            keyClick(Qt.Key_End);
+            keyClick(Qt.Key_Enter);
+            compare(choices.signalArguments.map(list => list[0]), ["b/c", "a", "b/c"]);
+        }
+
+        function test_badgeAndKeyFilter() {
+            prepare();
+            const filters = spyOn(pane, "filterRequested");
+            const choices = spyOn(pane, "chosen");
+            click("Show the 5 error(s)");
+            compare(filters.signalArguments[0][0], "b");
+            const list = itemsWhere(pane, item => item instanceof ListView)[0];
+            list.forceActiveFocus(Qt.TabFocusReason);
+            keyClick(Qt.Key_Home);
+            keyClick(Qt.Key_F);
+            compare(filters.signalArguments[1][0], "a");
+            compare(choices.count, 0);
+        }
+
+        function test_keyboardPlaceSurvivesNewCounts() {
+            prepare();
+            const list = itemsWhere(pane, item => item instanceof ListView)[0];
+            list.forceActiveFocus(Qt.TabFocusReason);
+            keyClick(Qt.Key_End);
+            const old = stations.errorCounts;
+            stations.errorCounts = [{ "stationID": "a", "errorNumber": 1 }];
+            compare(list.currentIndex, 2);
+            stations.errorCounts = old;
+        }
+
+        function test_noStations() {
+            prepare({ "directory": nobody });
+            verify(hasText(pane, "No stations"));
+        }
+    }
+}
