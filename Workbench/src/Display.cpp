@@ -1,0 +1,30 @@
+#include "Display.h"
+
+#include <QProcessEnvironment>
+#include <QStringList>
+
+namespace {
+
+void setDefault(const char *name, const QByteArray &value)
+{
+    if (!qEnvironmentVariableIsSet(name))
+        qputenv(name, value);
+}
+
+} // namespace
+
+bool hasDisplay(const QProcessEnvironment &environment)
+{
+    const QString platform = environment.value(QStringLiteral("QT_QPA_PLATFORM"));
+    if (!platform.isEmpty())
+        return !platform.startsWith(QLatin1String("offscreen"))
+               && !platform.startsWith(QLatin1String("minimal"));
+    return !environment.value(QStringLiteral("DISPLAY")).isEmpty()
+           || !environment.value(QStringLiteral("WAYLAND_DISPLAY")).isEmpty();
+}
+
+void drawOffscreen()
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    setDefault("QT_QUICK_BACKEND", "software");
+}
