@@ -124,7 +124,7 @@ double OptionParser::number(const QCommandLineOption &option, double greatest) c
     bool isNumber = false;
     const QString text = m_parser.value(option);
     const double number = text.toDouble(&isNumber);
-    if (!isNumber || number <= 0 || number > greatest)
+    if (!isNumber || !(number > 0 && number <= greatest))
         throw InputError(tr("--%1: expected a number greater than 0 and up to %2, found \"%3\".")
                              .arg(option.names().constFirst())
                              .arg(greatest)

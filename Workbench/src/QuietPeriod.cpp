@@ -4,16 +4,8 @@
 
 #include <algorithm>
 
-namespace {
-
-constexpr qint64 RestMs = 1000;
-constexpr qint64 WalkMs = 6000;
-constexpr qint64 PatienceMs = 10'000;
-
-} // namespace
-
-QuietPeriod::QuietPeriod(const QAbstractItemModel &list, QObject *parent)
-    : QObject(parent)
+QuietPeriod::QuietPeriod(const QAbstractItemModel &list, const QuietTimes &times)
+    : m_times(times)
     , m_walk(0)
 {
     m_timer.setSingleShot(true);
@@ -28,14 +20,14 @@ QuietPeriod::QuietPeriod(const QAbstractItemModel &list, QObject *parent)
 
 void QuietPeriod::expectWalk()
 {
-    m_walk.setRemainingTime(WalkMs);
+    m_walk.setRemainingTime(m_times.walk);
     wait();
 }
 
 void QuietPeriod::start()
 {
     m_isWaiting = true;
-    m_patience.setRemainingTime(PatienceMs);
+    m_patience.setRemainingTime(m_times.patience);
     wait();
 }
 
@@ -43,6 +35,6 @@ void QuietPeriod::wait()
 {
     if (!m_isWaiting)
         return;
-    const qint64 rest = std::max(RestMs, m_walk.remainingTime());
+    const qint64 rest = std::max(m_times.rest, m_walk.remainingTime());
     m_timer.start(static_cast<int>(std::min(rest, m_patience.remainingTime())));
 }

@@ -7,6 +7,14 @@
 
 class QAbstractItemModel;
 
+/// How long what is waited for takes, in milliseconds of real time.
+struct QuietTimes
+{
+    qint64 rest = 1000;       ///< after the list's last change
+    qint64 walk = 6000;       ///< from the retrieval of the states until the walk is done
+    qint64 patience = 10'000; ///< in all
+};
+
 /// Waits until an error list has come to rest after a scenario.
 ///
 /// The plug-in's timers run in real time, however fast the scenario went by: it counts errors half
@@ -20,7 +28,7 @@ class QuietPeriod : public QObject
 
 public:
     /// @param list must outlive this object
-    explicit QuietPeriod(const QAbstractItemModel &list, QObject *parent = nullptr);
+    explicit QuietPeriod(const QAbstractItemModel &list, const QuietTimes &times = {});
 
     /// Tells that the plug-in is going to walk through the topology.
     void expectWalk();
@@ -35,6 +43,7 @@ Q_SIGNALS:
 private:
     void wait();
 
+    const QuietTimes m_times;
     QDeadlineTimer m_walk; // passed: no walk ahead
     QDeadlineTimer m_patience;
     QTimer m_timer;
