@@ -22,6 +22,12 @@ QString number(int value)
     return QString::number(value).rightJustified(NumberWidth);
 }
 
+// A failed sample is negative.
+QString percentageText(int percentage)
+{
+    return percentage < 0 ? ConsoleReport::tr("unknown") : QStringLiteral("%1%").arg(percentage);
+}
+
 QString nodeIds(const QVariant &ownParts, const QString &parentId)
 {
     QStringList ids;
@@ -64,16 +70,17 @@ void ConsoleReport::writeSummary()
     for (const ErrorTally::Counts &counts : m_tally.counts())
         writeCounts(counts, counts.name);
     writeCounts(m_tally.total(), tr("all"));
-    m_out << tr("%n sample(s) of this machine", nullptr, m_sampleCount);
+    m_out << tr("Samples of this machine: %1").arg(m_sampleCount);
     if (m_sampleCount > 0)
-        m_out << tr("; the last: CPU %1%, memory %2%").arg(m_lastCpu).arg(m_lastMemory);
+        m_out << tr("; the last: CPU %1, memory %2")
+                     .arg(percentageText(m_lastCpu), percentageText(m_lastMemory));
     m_out << Qt::endl;
 }
 
 void ConsoleReport::followErrors(const Workbench &workbench)
 {
     const auto line = [this](const QString &word, const ListedError &error) {
-        writeLine(word, tr("%1: %2  [%3]").arg(error.name, error.origin, error.key));
+        writeLine(word, QStringLiteral("%1: %2  [%3]").arg(error.name, error.origin, error.key));
     };
     const ErrorListWatch &watch = workbench.errorWatch();
     connect(&watch, &ErrorListWatch::raised, this, [this, line](const ListedError &error) {
@@ -94,17 +101,19 @@ void ConsoleReport::followServer(Workbench &workbench)
     connect(&link, &ServerLink::opened, this, [this] { writeLine(tr("server"), tr("connected")); });
     connect(&link, &ServerLink::closed, this,
             [this] { writeLine(tr("server"), tr("connection lost")); });
-    connect(&link, &ServerLink::eventRaised, this, &ConsoleReport::writeEvent);
+    connect(&workbench, &Workbench::eventArrived, this, &ConsoleReport::writeEvent);
     connect(&workbench.topology(), &TopologyPlugin::camStatusRetrievedChanged, this,
             [this](bool success) {
                 writeLine(tr("states"), success ? tr("the states of all nodes were retrieved")
                                                 : tr("retrieving the states of nodes failed"));
             });
-    connect(&workbench.surface(), &PluginSurface::reachingLimit, this,
-            [this](const QString &serverName, double percentage) {
-                writeLine(tr("capacity"),
-                          tr("%1 is at %2% of its capacity").arg(serverName).arg(percentage));
-            });
+    connect(
+        &workbench.surface(), &PluginSurface::reachingLimit, this,
+        [this](const QString &serverName, double percentage) {
+            writeLine(
+                tr("capacity"),
+                tr("%1 is at %2% of its capacity").arg(serverName, QString::number(percentage)));
+        });
     connect(&workbench.surface(), &PluginSurface::clientResourceChanged, this,
             [this](int cpu, int memory) {
                 ++m_sampleCount;
@@ -115,8 +124,14 @@ void ConsoleReport::followServer(Workbench &workbench)
 
 void ConsoleReport::followUser(Workbench &workbench)
 {
+    connect(&workbench.framework(), &Framework::commandStarted, this,
+            &ConsoleReport::writeReconnection);
     connect(&workbench.framework(), &Framework::commandExecuted, this,
-            &ConsoleReport::writeCommand);
+            [this](const QString &command, const QVariant &data, const QString &,
+                   const QString &resultCode) {
+                if (command == ServerNames::SetSnooze)
+                    writeSnooze(data.toMap(), resultCode);
+            });
     connect(&workbench.surface(), &PluginSurface::supportAnswered, this,
             [this](const QString &stationId, bool isSupported) {
                 writeLine(tr("support"),
@@ -125,28 +140,29 @@ void ConsoleReport::followUser(Workbench &workbench)
             });
     connect(&workbench.logPlugin(), &OperationalLogPlugin::entryAdded, this,
             [this](const QString &name, const QVariantList &parameters) {
-                writeLine(
-                    tr("logged"),
-                    tr("%1: %2").arg(
-                        name, QVariant(parameters).toStringList().join(QStringLiteral(", "))));
+                const QStringList texts = QVariant(parameters).toStringList();
+                writeLine(tr("logged"),
+                          QStringLiteral("%1: %2").arg(name, texts.join(QStringLiteral(", "))));
             });
 }
 
-void ConsoleReport::writeCommand(const QString &command, const QVariant &data,
-                                 const QString &target, const QString &resultCode)
+void ConsoleReport::writeReconnection(const QString &command, const QVariant &data,
+                                      const QString &target)
 {
-    if (command == ServerNames::SetSnooze) {
-        const QVariantMap request = data.toMap();
-        const QString nodeId = request.value(ServerNames::KeyNodeId).toString();
-        const qint64 endMs = request.value(ServerNames::KeyTimestamp).toLongLong() * 1000;
-        writeLine(tr("snooze"), resultCode == ServerNames::Success
-                                    ? tr("%1 is snoozed until %2").arg(nodeId, timeText(endMs))
-                                    : tr("%1 was refused: %2").arg(nodeId, resultCode));
-    } else if (command == ServerNames::ReconnectCameras) {
+    if (command == ServerNames::ReconnectCameras)
         writeLine(tr("reconnect"), tr("cameras %1").arg(nodeIds(data, target)));
-    } else if (command == ServerNames::ReconnectSubstations) {
+    else if (command == ServerNames::ReconnectSubstations)
         writeLine(tr("reconnect"), tr("stations %1").arg(nodeIds(data, target)));
-    }
+}
+
+void ConsoleReport::writeSnooze(const QVariantMap &request, const QString &resultCode)
+{
+    const QString nodeId = request.value(ServerNames::KeyNodeId).toString();
+    const qint64 endMs = request.value(ServerNames::KeyTimestamp).toLongLong() * 1000;
+    if (resultCode == ServerNames::Success)
+        writeLine(tr("snooze"), tr("%1 is snoozed until %2").arg(nodeId, timeText(endMs)));
+    else
+        writeLine(tr("snooze"), tr("%1 was refused: %2").arg(nodeId, resultCode));
 }
 
 void ConsoleReport::writeEvent(const QString &name, const QVariant &data)

@@ -35,8 +35,8 @@ private:
     void followErrors(const Workbench &workbench);
     void followServer(Workbench &workbench);
     void followUser(Workbench &workbench);
-    void writeCommand(const QString &command, const QVariant &data, const QString &target,
-                      const QString &resultCode);
+    void writeReconnection(const QString &command, const QVariant &data, const QString &target);
+    void writeSnooze(const QVariantMap &request, const QString &resultCode);
     void writeEvent(const QString &name, const QVariant &data);
     QString timeText(qint64 ms) const;
 

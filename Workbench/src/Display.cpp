@@ -1,7 +1,10 @@
 #include "Display.h"
 
+#include <QDir>
+#include <QFile>
 #include <QProcessEnvironment>
-#include <QStringList>
+
+#include <unistd.h>
 
 namespace {
 
@@ -27,4 +30,7 @@ void drawOffscreen()
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     setDefault("QT_QUICK_BACKEND", "software");
+    // Outside a login session Qt makes such a folder itself, and complains.
+    const QString folder = QDir::tempPath() + QStringLiteral("/runtime-%1").arg(geteuid());
+    setDefault("XDG_RUNTIME_DIR", QFile::encodeName(folder));
 }

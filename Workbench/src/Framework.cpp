@@ -67,6 +67,7 @@ QObject *Framework::plugin(const QString &pluginId) const
 
 void Framework::answer(const Command &command)
 {
+    Q_EMIT commandStarted(command.name, command.data, command.target);
     const CommandResult result = m_execute(command.name, command.data, command.target);
     Q_EMIT commandExecuted(command.name, command.data, command.target, result.code);
     if (const auto sender = qobject_cast<PluginBase *>(plugin(command.senderId)))

@@ -45,6 +45,8 @@ public:
     QObject *GetPluginObject(void *handle, const QString &pluginID) override;
 
 Q_SIGNALS:
+    /// A command is about to be carried out.
+    void commandStarted(const QString &command, const QVariant &data, const QString &target);
     /// A command was carried out, its sender is about to hear.
     void commandExecuted(const QString &command, const QVariant &data, const QString &target,
                          const QString &resultCode);

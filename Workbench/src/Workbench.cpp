@@ -70,6 +70,7 @@ void Workbench::wireServer()
             &RecordingManagementPlugin::reloadStorageUsageInfo);
     connect(&m_link, &ServerLink::eventRaised, this,
             [this](const QString &name, const QVariant &data, const QString &sourceId) {
+                Q_EMIT eventArrived(name, data, sourceId);
                 m_host.plugin()->EventProcessor(name, 0, 0, 0, data, sourceId);
             });
 }

@@ -48,6 +48,10 @@ public:
     PluginSurface &surface() { return *m_surface; }
     const ErrorListWatch &errorWatch() const { return *m_errorWatch; }
 
+Q_SIGNALS:
+    /// An event has come from the server, the plug-in is about to hear.
+    void eventArrived(const QString &name, const QVariant &data, const QString &sourceId);
+
 private:
     void wirePlugins(QQmlContext *context);
     void wireServer();

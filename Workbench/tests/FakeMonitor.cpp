@@ -10,6 +10,7 @@ bool FakeMonitor::InitialPluginBase(QQmlContext *, void *handle, FrameworkWrappe
 {
     m_hostHandle = handle;
     m_framework = framework;
+    m_log.add(QStringLiteral("initialised"));
     return true;
 }
 
@@ -37,6 +38,21 @@ void FakeMonitor::CommandProcessorEx(QString, ConfigBase *, QVariant, void *, QS
 bool FakeMonitor::Init(QQmlContext *)
 {
     return true;
+}
+
+void FakeMonitor::LoadPairPluginDone()
+{
+    m_log.add(QStringLiteral("paired"));
+}
+
+void FakeMonitor::PluginServerConnected()
+{
+    m_log.add(QStringLiteral("server connected"));
+}
+
+void FakeMonitor::PluginServerDisconnected()
+{
+    m_log.add(QStringLiteral("server disconnected"));
 }
 
 bool FakeMonitor::checkSupportSystemMonitor(const QString &stationId)

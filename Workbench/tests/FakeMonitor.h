@@ -2,9 +2,8 @@
 #define FAKEMONITOR_H
 
 #include "CallLog.h"
+#include "ErrorModel.h"
 #include "PluginBase.h"
-
-#include <QStandardItemModel>
 
 /// A plug-in with the surface of the system monitor, which logs what is done to it.
 class FakeMonitor : public PluginBase
@@ -15,6 +14,9 @@ class FakeMonitor : public PluginBase
 
 public:
     explicit FakeMonitor(CallLog &log);
+
+    /// For tests that have the object from a plug-in file.
+    Q_INVOKABLE QStringList takeLog() { return m_log.take(); }
 
     bool InitialPluginBase(QQmlContext *context, void *handle,
                            FrameworkWrapperBase *framework) override;
@@ -27,6 +29,9 @@ public:
     void CommandProcessorEx(QString, ConfigBase *, QVariant, void *, QString, QString, bool,
                             const QString &) override;
     bool Init(QQmlContext *) override;
+    void LoadPairPluginDone() override;
+    void PluginServerConnected() override;
+    void PluginServerDisconnected() override;
 
     Q_INVOKABLE QObject *getSystemErrorModel() { return &m_errors; }
     Q_INVOKABLE bool checkSupportSystemMonitor(const QString &stationId);
@@ -53,7 +58,7 @@ private:
                                                      const QString &groupID);
 
     CallLog &m_log;
-    QStandardItemModel m_errors;
+    ErrorModel m_errors;
     QString m_focus;
 };
 

@@ -32,7 +32,7 @@ private Q_SLOTS:
     void commandsAreAnsweredFromTheEventLoop();
     void commandsAreAnsweredInTheirOrder();
     void everythingPassesUnchanged();
-    void announcesACommandBeforeItsAnswer();
+    void announcesACommandAndItsResult();
     void refusesCommandsWithoutASender();
     void dropsTheAnswerWhenTheSenderIsGone();
     void answersWhatIsOutstandingOnRequest();
@@ -131,8 +131,12 @@ void tst_Framework::everythingPassesUnchanged()
     QCOMPARE(m_monitor->lastContext, &context);
 }
 
-void tst_Framework::announcesACommandBeforeItsAnswer()
+void tst_Framework::announcesACommandAndItsResult()
 {
+    connect(m_framework.get(), &Framework::commandStarted, this,
+            [this](const QString &command, const QVariant &, const QString &target) {
+                m_log.add(QStringLiteral("started %1 at %2").arg(command, target));
+            });
     connect(m_framework.get(), &Framework::commandExecuted, this,
             [this](const QString &command, const QVariant &, const QString &target,
                    const QString &code) {
@@ -140,7 +144,8 @@ void tst_Framework::announcesACommandBeforeItsAnswer()
             });
     send(QStringLiteral("ask"), {}, nullptr, QStringLiteral("st"));
     QCoreApplication::sendPostedEvents();
-    QCOMPARE(m_log.take(), QStringList({QStringLiteral("execute ask invalid at 'st'"),
+    QCOMPARE(m_log.take(), QStringList({QStringLiteral("started ask at st"),
+                                        QStringLiteral("execute ask invalid at 'st'"),
                                         QStringLiteral("executed ask at st: code of ask"),
                                         QStringLiteral("response ask invalid code of ask")}));
 }
