@@ -60,10 +60,9 @@ JsonObject JsonObject::fromFile(const QString &fileName)
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(text, &error);
     if (error.error != QJsonParseError::NoError)
-        throw InputError(tr("%1: line %2: expected valid JSON, found: %3")
-                             .arg(fileName)
-                             .arg(lineOf(text, error.offset))
-                             .arg(error.errorString()));
+        throw InputError(
+            tr("%1: line %2: expected valid JSON, found: %3")
+                .arg(fileName, QString::number(lineOf(text, error.offset)), error.errorString()));
     if (!document.isObject())
         throw InputError(tr("%1: line 1: expected an object, found a list").arg(fileName));
     return {fileName, {}, document.object()};

@@ -1,9 +1,10 @@
 #include "OperationalLogPlugin.h"
 
 #include "Clock.h"
-#include "OperationalLog.h"
+#include "OperationalLogStore.h"
 
-OperationalLogPlugin::OperationalLogPlugin(OperationalLog &log, const Clock &clock, QObject *parent)
+OperationalLogPlugin::OperationalLogPlugin(OperationalLogStore &log, const Clock &clock,
+                                           QObject *parent)
     : QObject(parent)
     , m_log(log)
     , m_clock(clock)

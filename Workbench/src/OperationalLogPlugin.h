@@ -5,7 +5,7 @@
 #include <QVariantList>
 
 class Clock;
-class OperationalLog;
+class OperationalLogStore;
 
 /// The plug-in through which others write to the operational log.
 class OperationalLogPlugin : public QObject
@@ -14,7 +14,7 @@ class OperationalLogPlugin : public QObject
 
 public:
     /// @param clock gives the time of an entry; both must outlive the plug-in
-    OperationalLogPlugin(OperationalLog &log, const Clock &clock, QObject *parent = nullptr);
+    OperationalLogPlugin(OperationalLogStore &log, const Clock &clock, QObject *parent = nullptr);
 
     /// Writes an entry. Called by name.
     ///
@@ -27,7 +27,7 @@ Q_SIGNALS:
     void entryAdded(const QString &name, const QVariantList &parameters);
 
 private:
-    OperationalLog &m_log;
+    OperationalLogStore &m_log;
     const Clock &m_clock;
 };
 

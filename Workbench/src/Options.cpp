@@ -81,6 +81,10 @@ OptionParser::OptionParser()
         tr("Runs the system-monitor plug-in in a stand-in for its host: with a site of recording "
            "stations and cameras, a scenario of what happens there, and this machine's own load.\n"
            "\n"
+           "  workbench                                       show the dashboard\n"
+           "  workbench --headless --scenario everything      print what happens\n"
+           "  workbench --headless --screenshot picture.png   save a picture as well\n"
+           "\n"
            "Exit codes: 0 all went well, 1 the work could not be done, 2 an option or a file is "
            "wrong."));
     m_parser.addOptions({m_headless, m_site, m_scenario, m_speed, m_loop, m_screenshot,

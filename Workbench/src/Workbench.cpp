@@ -5,7 +5,7 @@
 #include "PluginIds.h"
 
 Workbench::Workbench(PluginHost &host, QQmlContext *context, const Site &site,
-                     const Scenario &scenario, OperationalLog &log, Clock &clock)
+                     const Scenario &scenario, OperationalLogStore &log, Clock &clock)
     : m_host(host)
     , m_initialSite(site)
     , m_server(site, clock)

@@ -4,8 +4,8 @@
 #include "ErrorListWatch.h"
 #include "Framework.h"
 #include "LocalStation.h"
-#include "OperationalLog.h"
 #include "OperationalLogPlugin.h"
+#include "OperationalLogStore.h"
 #include "PluginSurface.h"
 #include "RecordingManagementPlugin.h"
 #include "Scenario.h"
@@ -34,7 +34,7 @@ public:
     ///
     /// Throws HostError when the plug-in cannot be used.
     Workbench(PluginHost &host, QQmlContext *context, const Site &site, const Scenario &scenario,
-              OperationalLog &log, Clock &clock);
+              OperationalLogStore &log, Clock &clock);
     ~Workbench() override;
 
     /// Connects the server and plays the scenario; again with the site as it was at first.

@@ -1,3 +1,4 @@
+#include "Catalogues.h"
 #include "ConsoleReport.h"
 #include "DashboardFeed.h"
 #include "DashboardWindow.h"
@@ -11,7 +12,6 @@
 #include "ScenarioFile.h"
 #include "Screenshot.h"
 #include "SiteFile.h"
-#include "Translations.h"
 #include "WindowRun.h"
 #include "Workbench.h"
 
@@ -77,7 +77,7 @@ QString logFile(const Options &options)
            + QStringLiteral("/operational-log.sqlite");
 }
 
-int play(const Options &options, Translations &translations)
+int play(const Options &options, Catalogues &catalogues)
 {
     const bool isHeadless = runsHeadless(options);
     if (isHeadless && options.isLooped)
@@ -86,9 +86,9 @@ int play(const Options &options, Translations &translations)
     const Scenario scenario = readScenario(options, site);
 
     PluginHost host(options.pluginFile.isEmpty() ? defaultPluginFile() : options.pluginFile);
-    translations.installNew();
+    catalogues.installNew();
     ScaledClock clock(options.speed);
-    OperationalLog log(logFile(options));
+    OperationalLogStore log(logFile(options));
     std::unique_ptr<QQmlEngine> engine;
     if (!isHeadless || !options.screenshotFile.isEmpty())
         engine = std::make_unique<QQmlEngine>();
@@ -121,13 +121,13 @@ int run(int argc, char **argv)
     const QStringList arguments = toStringList(argc, argv);
     const Options options = parseOptions(arguments);
     const std::unique_ptr<QCoreApplication> application = createApplication(options, argc, argv);
-    Translations translations(options.language);
+    Catalogues catalogues(options.language);
     if (options.wantsHelp)
         QTextStream(stdout) << optionsHelp();
     else if (options.wantsVersion)
         QTextStream(stdout) << "workbench " WORKBENCH_VERSION "\n";
     else
-        return play(options, translations);
+        return play(options, catalogues);
     return EXIT_SUCCESS;
 }
 

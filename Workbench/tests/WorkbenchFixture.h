@@ -2,7 +2,7 @@
 #define WORKBENCHFIXTURE_H
 
 #include "LocalStation.h"
-#include "OperationalLog.h"
+#include "OperationalLogStore.h"
 #include "PluginHost.h"
 #include "TestSite.h"
 #include "VirtualClock.h"
@@ -26,7 +26,7 @@ struct WorkbenchFixture
 
     VirtualClock clock;
     PluginHost host;
-    OperationalLog log;
+    OperationalLogStore log;
     Workbench workbench;
 };
 

@@ -1,6 +1,6 @@
 #include "OperationalLogPlugin.h"
 
-#include "OperationalLog.h"
+#include "OperationalLogStore.h"
 #include "VirtualClock.h"
 
 #include <QSignalSpy>
@@ -21,7 +21,7 @@ void tst_OperationalLogPlugin::writesWhatIsGivenByName()
         QVariantMap{{QStringLiteral("param"), QStringLiteral("Station: N / Camera: C")}},
         QVariantMap{}};
     VirtualClock clock;
-    OperationalLog log{QString()};
+    OperationalLogStore log{QString()};
     OperationalLogPlugin plugin(log, clock);
     const QSignalSpy added(&plugin, &OperationalLogPlugin::entryAdded);
 

@@ -1,4 +1,4 @@
-#include "Translations.h"
+#include "Catalogues.h"
 
 #include "InputError.h"
 
@@ -23,11 +23,11 @@ bool isOffered(const QString &language)
 
 } // namespace
 
-Translations::Translations(QString language)
+Catalogues::Catalogues(QString language)
     : m_language(std::move(language))
 {
     if (!isOffered(m_language))
-        throw InputError(QCoreApplication::translate("Translations",
+        throw InputError(QCoreApplication::translate("Catalogues",
                                                      "--language: expected en or de, found \"%1\".")
                              .arg(m_language));
     if (m_language != SourceLanguage)
@@ -35,9 +35,9 @@ Translations::Translations(QString language)
     installNew();
 }
 
-Translations::~Translations() = default;
+Catalogues::~Catalogues() = default;
 
-void Translations::installNew()
+void Catalogues::installNew()
 {
     const QStringList pattern{QStringLiteral("*_%1.qm").arg(m_language)};
     const QStringList names = QDir(Folder).entryList(pattern);

@@ -1,5 +1,5 @@
-#ifndef TRANSLATIONS_H
-#define TRANSLATIONS_H
+#ifndef CATALOGUES_H
+#define CATALOGUES_H
 
 #include <QSet>
 #include <QString>
@@ -10,15 +10,15 @@
 class QTranslator;
 
 /// The catalogues of one language, from wherever a resource offers one: ":/i18n/Name_language.qm".
-class Translations
+class Catalogues
 {
 public:
     /// Throws InputError when the Workbench has no texts in the language.
-    explicit Translations(QString language);
-    ~Translations();
+    explicit Catalogues(QString language);
+    ~Catalogues();
 
-    Translations(const Translations &) = delete;
-    Translations &operator=(const Translations &) = delete;
+    Catalogues(const Catalogues &) = delete;
+    Catalogues &operator=(const Catalogues &) = delete;
 
     /// Installs the catalogues that have come since the last call, for example with a library.
     void installNew();

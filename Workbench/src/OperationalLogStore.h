@@ -1,5 +1,5 @@
-#ifndef OPERATIONALLOG_H
-#define OPERATIONALLOG_H
+#ifndef OPERATIONALLOGSTORE_H
+#define OPERATIONALLOGSTORE_H
 
 #include <QCoreApplication>
 #include <QDateTime>
@@ -19,18 +19,18 @@ struct OperationalLogEntry
 ///
 /// Table "operational_log": "id" (ascending), "time" (milliseconds since the epoch), "name", and
 /// "parameters" (a JSON list).
-class OperationalLog
+class OperationalLogStore
 {
-    Q_DECLARE_TR_FUNCTIONS(OperationalLog)
+    Q_DECLARE_TR_FUNCTIONS(OperationalLogStore)
 
 public:
     /// Opens a file, which is made if need be; an empty name keeps the log in memory. Throws
     /// HostError when the file cannot be used.
-    explicit OperationalLog(const QString &fileName);
-    ~OperationalLog();
+    explicit OperationalLogStore(const QString &fileName);
+    ~OperationalLogStore();
 
-    OperationalLog(const OperationalLog &) = delete;
-    OperationalLog &operator=(const OperationalLog &) = delete;
+    OperationalLogStore(const OperationalLogStore &) = delete;
+    OperationalLogStore &operator=(const OperationalLogStore &) = delete;
 
     /// Adds an entry; false when it could not be written.
     bool add(const OperationalLogEntry &entry);

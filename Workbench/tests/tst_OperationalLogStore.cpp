@@ -1,4 +1,4 @@
-#include "OperationalLog.h"
+#include "OperationalLogStore.h"
 
 #include "HostError.h"
 #include "TextFile.h"
@@ -25,7 +25,7 @@ QStringList names(const QList<OperationalLogEntry> &entries)
 
 } // namespace
 
-class tst_OperationalLog : public QObject
+class tst_OperationalLogStore : public QObject
 {
     Q_OBJECT
 
@@ -39,19 +39,19 @@ private Q_SLOTS:
     void unusableFilesAreNamed();
 };
 
-void tst_OperationalLog::keepsEntriesInMemory()
+void tst_OperationalLogStore::keepsEntriesInMemory()
 {
-    OperationalLog first{QString()};
-    OperationalLog second{QString()};
+    OperationalLogStore first{QString()};
+    OperationalLogStore second{QString()};
     QVERIFY(first.add(entry(1, QStringLiteral("a"))));
     QCOMPARE(names(first.newest(10)), QStringList{QStringLiteral("a")});
     QCOMPARE(names(second.newest(10)), QStringList());
 }
 
-void tst_OperationalLog::entriesComeBackAsTheyWere()
+void tst_OperationalLogStore::entriesComeBackAsTheyWere()
 {
     const QVariantList parameters{QStringLiteral("Kamera \"Süd\" / %1"), QStringLiteral(""), 3};
-    OperationalLog log{QString()};
+    OperationalLogStore log{QString()};
     QVERIFY(log.add(entry(1'780'660'800'123, QStringLiteral("AddDashboardSnooze"), parameters)));
     const OperationalLogEntry read = log.newest(1).at(0);
     QCOMPARE(read.time.toMSecsSinceEpoch(), 1'780'660'800'123);
@@ -59,30 +59,30 @@ void tst_OperationalLog::entriesComeBackAsTheyWere()
     QCOMPARE(read.parameters, parameters);
 }
 
-void tst_OperationalLog::newestEntriesComeFirst()
+void tst_OperationalLogStore::newestEntriesComeFirst()
 {
-    OperationalLog log{QString()};
+    OperationalLogStore log{QString()};
     for (const char *const name : {"a", "b", "c"})
         log.add(entry(1, QString::fromLatin1(name)));
     QCOMPARE(names(log.newest(2)), QStringList({QStringLiteral("c"), QStringLiteral("b")}));
     QCOMPARE(names(log.newest(0)), QStringList());
 }
 
-void tst_OperationalLog::fileKeepsEntriesForLater()
+void tst_OperationalLogStore::fileKeepsEntriesForLater()
 {
     const QTemporaryDir directory;
     const QString file = directory.filePath(QStringLiteral("log.sqlite"));
-    OperationalLog(file).add(entry(1, QStringLiteral("a")));
-    OperationalLog(file).add(entry(2, QStringLiteral("b")));
-    QCOMPARE(names(OperationalLog(file).newest(10)),
+    OperationalLogStore(file).add(entry(1, QStringLiteral("a")));
+    OperationalLogStore(file).add(entry(2, QStringLiteral("b")));
+    QCOMPARE(names(OperationalLogStore(file).newest(10)),
              QStringList({QStringLiteral("b"), QStringLiteral("a")}));
 }
 
-void tst_OperationalLog::fileCanBeReadWithOrdinaryTools()
+void tst_OperationalLogStore::fileCanBeReadWithOrdinaryTools()
 {
     const QTemporaryDir directory;
     const QString file = directory.filePath(QStringLiteral("log.sqlite"));
-    OperationalLog(file).add(entry(5, QStringLiteral("a"), {QStringLiteral("x")}));
+    OperationalLogStore(file).add(entry(5, QStringLiteral("a"), {QStringLiteral("x")}));
     const QString connection = QStringLiteral("reader");
     {
         QSqlDatabase database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), connection);
@@ -99,21 +99,21 @@ void tst_OperationalLog::fileCanBeReadWithOrdinaryTools()
     QSqlDatabase::removeDatabase(connection);
 }
 
-void tst_OperationalLog::folderIsMade()
+void tst_OperationalLogStore::folderIsMade()
 {
     const QTemporaryDir directory;
     const QString file = directory.filePath(QStringLiteral("deep/down/log.sqlite"));
-    QVERIFY(OperationalLog(file).add(entry(1, QStringLiteral("a"))));
+    QVERIFY(OperationalLogStore(file).add(entry(1, QStringLiteral("a"))));
     QVERIFY(QFile::exists(file));
 }
 
-void tst_OperationalLog::unusableFilesAreNamed()
+void tst_OperationalLogStore::unusableFilesAreNamed()
 {
     const TextFile noDatabase(QByteArray(4096, 'x'), QStringLiteral("log.sqlite"));
     for (const QString &path : {noDatabase.path(), noDatabase.path() + QStringLiteral("/log")}) {
         QString message;
         try {
-            const OperationalLog log(path);
+            const OperationalLogStore log(path);
         } catch (const HostError &error) {
             message = error.message();
         }
@@ -122,5 +122,5 @@ void tst_OperationalLog::unusableFilesAreNamed()
     }
 }
 
-QTEST_GUILESS_MAIN(tst_OperationalLog)
-#include "tst_OperationalLog.moc"
+QTEST_GUILESS_MAIN(tst_OperationalLogStore)
+#include "tst_OperationalLogStore.moc"

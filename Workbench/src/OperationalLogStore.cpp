@@ -1,4 +1,4 @@
-#include "OperationalLog.h"
+#include "OperationalLogStore.h"
 
 #include "HostError.h"
 
@@ -40,7 +40,7 @@ QString databaseName(const QString &fileName)
 
 } // namespace
 
-OperationalLog::OperationalLog(const QString &fileName)
+OperationalLogStore::OperationalLogStore(const QString &fileName)
     : m_connectionName(QUuid::createUuid().toString())
 {
     if (!fileName.isEmpty())
@@ -63,12 +63,12 @@ OperationalLog::OperationalLog(const QString &fileName)
     }
 }
 
-OperationalLog::~OperationalLog()
+OperationalLogStore::~OperationalLogStore()
 {
     QSqlDatabase::removeDatabase(m_connectionName);
 }
 
-bool OperationalLog::add(const OperationalLogEntry &entry)
+bool OperationalLogStore::add(const OperationalLogEntry &entry)
 {
     QSqlQuery query(QSqlDatabase::database(m_connectionName));
     query.prepare(QLatin1String(Insert));
@@ -78,7 +78,7 @@ bool OperationalLog::add(const OperationalLogEntry &entry)
     return query.exec();
 }
 
-QList<OperationalLogEntry> OperationalLog::newest(int limit) const
+QList<OperationalLogEntry> OperationalLogStore::newest(int limit) const
 {
     QSqlQuery query(QSqlDatabase::database(m_connectionName));
     query.prepare(QLatin1String(SelectNewest));
