@@ -10,6 +10,7 @@
 #include "Workbench.h"
 
 #include <QDateTime>
+#include <QLocale>
 #include <QTextStream>
 
 namespace {
@@ -112,7 +113,7 @@ void ConsoleReport::followServer(Workbench &workbench)
         [this](const QString &serverName, double percentage) {
             writeLine(
                 tr("capacity"),
-                tr("%1 is at %2% of its capacity").arg(serverName, QString::number(percentage)));
+                tr("%1 is at %2% of its capacity").arg(serverName, QLocale().toString(percentage)));
         });
     connect(&workbench.surface(), &PluginSurface::clientResourceChanged, this,
             [this](int cpu, int memory) {
