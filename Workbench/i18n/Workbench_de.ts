@@ -1,0 +1,454 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de_DE">
+<context>
+    <name>ConsoleReport</name>
+    <message>
+        <source>unknown</source>
+        <translation>unbekannt</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Zusammenfassung</translation>
+    </message>
+    <message>
+        <source>raised</source>
+        <translation>neu</translation>
+    </message>
+    <message>
+        <source>cleared</source>
+        <translation>behoben</translation>
+    </message>
+    <message>
+        <source>listed</source>
+        <translation>offen</translation>
+    </message>
+    <message>
+        <source>error</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>all</source>
+        <translation>alle</translation>
+    </message>
+    <message>
+        <source>Samples of this machine: %1</source>
+        <translation>Messwerte dieses Rechners: %1</translation>
+    </message>
+    <message>
+        <source>; the last: CPU %1, memory %2</source>
+        <translation>; zuletzt: CPU %1, Speicher %2</translation>
+    </message>
+    <message>
+        <source>changed</source>
+        <translation>geändert</translation>
+    </message>
+    <message>
+        <source>server</source>
+        <translation>Server</translation>
+    </message>
+    <message>
+        <source>connected</source>
+        <translation>verbunden</translation>
+    </message>
+    <message>
+        <source>connection lost</source>
+        <translation>Verbindung verloren</translation>
+    </message>
+    <message>
+        <source>states</source>
+        <translation>Zustände</translation>
+    </message>
+    <message>
+        <source>the states of all nodes were retrieved</source>
+        <translation>die Zustände aller Knoten wurden abgerufen</translation>
+    </message>
+    <message>
+        <source>retrieving the states of nodes failed</source>
+        <translation>das Abrufen der Zustände ist fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>capacity</source>
+        <translation>Kapazität</translation>
+    </message>
+    <message>
+        <source>%1 is at %2% of its capacity</source>
+        <translation>%1 hat %2 % der Kapazität erreicht</translation>
+    </message>
+    <message>
+        <source>support</source>
+        <translation>Abfrage</translation>
+    </message>
+    <message>
+        <source>%1 supports system monitoring</source>
+        <translation>%1 unterstützt die Systemüberwachung</translation>
+    </message>
+    <message>
+        <source>%1 does not support system monitoring</source>
+        <translation>%1 unterstützt die Systemüberwachung nicht</translation>
+    </message>
+    <message>
+        <source>logged</source>
+        <translation>Protokoll</translation>
+    </message>
+    <message>
+        <source>reconnect</source>
+        <translation>Verbinden</translation>
+    </message>
+    <message>
+        <source>cameras %1</source>
+        <translation>Kameras %1</translation>
+    </message>
+    <message>
+        <source>stations %1</source>
+        <translation>Stationen %1</translation>
+    </message>
+    <message>
+        <source>snooze</source>
+        <translation>Aufschub</translation>
+    </message>
+    <message>
+        <source>%1 is snoozed until %2</source>
+        <translation>%1 ist bis %2 zurückgestellt</translation>
+    </message>
+    <message>
+        <source>%1 was refused: %2</source>
+        <translation>%1 wurde abgelehnt: %2</translation>
+    </message>
+    <message>
+        <source>expired</source>
+        <translation>Ablauf</translation>
+    </message>
+    <message>
+        <source>the snooze of %1, which is still disconnected</source>
+        <translation>%1 ist nicht mehr zurückgestellt und noch immer getrennt</translation>
+    </message>
+    <message>
+        <source>the snooze of %1</source>
+        <translation>%1 ist nicht mehr zurückgestellt</translation>
+    </message>
+</context>
+<context>
+    <name>DashboardWindow</name>
+    <message>
+        <source>%1 - system monitor</source>
+        <translation>%1 - Systemüberwachung</translation>
+    </message>
+    <message>
+        <source>The dashboard cannot be loaded: %1</source>
+        <translation>Die Übersicht kann nicht geladen werden: %1</translation>
+    </message>
+</context>
+<context>
+    <name>HeadlessRun</name>
+    <message>
+        <source>picture</source>
+        <translation>Bild</translation>
+    </message>
+    <message>
+        <source>saved as %1</source>
+        <translation>gespeichert als %1</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written</source>
+        <translation>%1 kann nicht geschrieben werden</translation>
+    </message>
+</context>
+<context>
+    <name>JsonObject</name>
+    <message>
+        <source>nothing</source>
+        <translation>nichts</translation>
+    </message>
+    <message>
+        <source>null</source>
+        <translation>null</translation>
+    </message>
+    <message>
+        <source>the number %1</source>
+        <translation>die Zahl %1</translation>
+    </message>
+    <message>
+        <source>an empty text</source>
+        <translation>ein leerer Text</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;</source>
+        <translation>„%1“</translation>
+    </message>
+    <message>
+        <source>a list</source>
+        <translation>eine Liste</translation>
+    </message>
+    <message>
+        <source>an object</source>
+        <translation>ein Objekt</translation>
+    </message>
+    <message>
+        <source>%1: cannot be read: %2</source>
+        <translation>%1: kann nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>%1: line %2: expected valid JSON, found: %3</source>
+        <translation>%1: Zeile %2: erwartet: gültiges JSON, gefunden: %3</translation>
+    </message>
+    <message>
+        <source>%1: line 1: expected an object, found a list</source>
+        <translation>%1: Zeile 1: erwartet: ein Objekt, gefunden: eine Liste</translation>
+    </message>
+    <message>
+        <source>a text</source>
+        <translation>ein Text</translation>
+    </message>
+    <message>
+        <source>true or false</source>
+        <translation>true oder false</translation>
+    </message>
+    <message>
+        <source>a number from %1 to %2</source>
+        <translation>eine Zahl von %1 bis %2</translation>
+    </message>
+    <message>
+        <source>a whole number from %1 to %2</source>
+        <translation>eine ganze Zahl von %1 bis %2</translation>
+    </message>
+    <message>
+        <source>a list of objects</source>
+        <translation>eine Liste von Objekten</translation>
+    </message>
+    <message>
+        <source>one of the keys %1</source>
+        <translation>einer der Schlüssel %1</translation>
+    </message>
+    <message>
+        <source>an unknown key</source>
+        <translation>ein unbekannter Schlüssel</translation>
+    </message>
+    <message>
+        <source>%1: %2: expected %3, found %4</source>
+        <translation>%1: %2: erwartet: %3, gefunden: %4</translation>
+    </message>
+</context>
+<context>
+    <name>LocalStation</name>
+    <message>
+        <source>This machine (%1)</source>
+        <translation>Dieser Rechner (%1)</translation>
+    </message>
+</context>
+<context>
+    <name>OperationalLogStore</name>
+    <message>
+        <source>%1: cannot be used for the operational log: %2</source>
+        <translation>%1: kann nicht für das Betriebsprotokoll verwendet werden: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Options</name>
+    <message>
+        <source>Run without a window: play the scenario to its end, print each change of the error list, then a summary. This is what happens, too, when there is no display.</source>
+        <translation>Ohne Fenster laufen: das Szenario bis zum Ende spielen, jede Änderung der Fehlerliste ausgeben, dann eine Zusammenfassung. Das geschieht auch, wenn es keinen Bildschirm gibt.</translation>
+    </message>
+    <message>
+        <source>The site: a JSON file, or the name of a bundled one (default).</source>
+        <translation>Der Standort: eine JSON-Datei oder der Name eines mitgelieferten (default).</translation>
+    </message>
+    <message>
+        <source>file</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>What happens at the site: a JSON file, or the name of a bundled one (default, everything).</source>
+        <translation>Was am Standort geschieht: eine JSON-Datei oder der Name eines mitgelieferten Szenarios (default, everything).</translation>
+    </message>
+    <message>
+        <source>How many seconds of the scenario pass in a real one. Snoozes and the times printed follow; the plug-in&apos;s own delays and the samples of this machine do not.</source>
+        <translation>Wie viele Sekunden des Szenarios in einer wirklichen vergehen. Zurückstellungen und ausgegebene Zeiten folgen dem; die eigenen Fristen des Plug-ins und die Messwerte dieses Rechners nicht.</translation>
+    </message>
+    <message>
+        <source>number</source>
+        <translation>Zahl</translation>
+    </message>
+    <message>
+        <source>Start the scenario again whenever it has ended.</source>
+        <translation>Das Szenario nach jedem Ende von vorn beginnen.</translation>
+    </message>
+    <message>
+        <source>Save a picture of the dashboard, also without a window. The suffix names the format.</source>
+        <translation>Ein Bild der Übersicht speichern, auch ohne Fenster. Die Dateiendung bestimmt das Format.</translation>
+    </message>
+    <message>
+        <source>When to take it, in seconds of the scenario. Without this the scenario decides, or it is taken at the end.</source>
+        <translation>Wann es aufgenommen wird, in Sekunden des Szenarios. Ohne diese Angabe entscheidet das Szenario, sonst wird es am Ende aufgenommen.</translation>
+    </message>
+    <message>
+        <source>seconds</source>
+        <translation>Sekunden</translation>
+    </message>
+    <message>
+        <source>The language of all texts: en or de.</source>
+        <translation>Die Sprache aller Texte: en oder de.</translation>
+    </message>
+    <message>
+        <source>code</source>
+        <translation>Kürzel</translation>
+    </message>
+    <message>
+        <source>Keep the operational log in this SQLite file. Without it the log is kept among the user&apos;s data, or only in memory when there is no window.</source>
+        <translation>Das Betriebsprotokoll in dieser SQLite-Datei führen. Ohne diese Angabe liegt es bei den Daten des Benutzers, ohne Fenster nur im Speicher.</translation>
+    </message>
+    <message>
+        <source>Load this plug-in file instead of the one that was built with this program.</source>
+        <translation>Diese Plug-in-Datei laden statt der mit diesem Programm gebauten.</translation>
+    </message>
+    <message>
+        <source>Print this help.</source>
+        <translation>Diese Hilfe ausgeben.</translation>
+    </message>
+    <message>
+        <source>Print the version.</source>
+        <translation>Die Version ausgeben.</translation>
+    </message>
+    <message>
+        <source>Expected options only, found &quot;%1&quot;.</source>
+        <translation>Erwartet: nur Optionen, gefunden: „%1“.</translation>
+    </message>
+    <message>
+        <source>--screenshot-at: expected --screenshot FILE as well.</source>
+        <translation>--screenshot-at: erwartet: auch --screenshot DATEI.</translation>
+    </message>
+    <message>
+        <source>--%1: expected a number greater than 0 and up to %2, found &quot;%3&quot;.</source>
+        <translation>--%1: erwartet: eine Zahl größer als 0 und bis %2, gefunden: „%3“.</translation>
+    </message>
+    <message>
+        <source>Runs the system-monitor plug-in in a stand-in for its host: with a site of recording stations and cameras, a scenario of what happens there, and this machine&apos;s own load.
+
+  workbench                                       show the dashboard
+  workbench --headless --scenario everything      print what happens
+  workbench --headless --screenshot picture.png   save a picture as well
+
+Exit codes: 0 all went well, 1 the work could not be done, 2 an option or a file is wrong.</source>
+        <translation>Führt das Plug-in zur Systemüberwachung in einem Ersatz für sein Wirtsprogramm aus: mit einem Standort aus Aufzeichnungsstationen und Kameras, einem Szenario der Ereignisse und der Auslastung dieses Rechners.
+
+  workbench                                       die Übersicht zeigen
+  workbench --headless --scenario everything      ausgeben, was geschieht
+  workbench --headless --screenshot picture.png   auch ein Bild speichern
+
+Rückgabewerte: 0 alles ging gut, 1 die Arbeit war nicht möglich, 2 eine Option oder eine Datei ist falsch.</translation>
+    </message>
+</context>
+<context>
+    <name>PluginHost</name>
+    <message>
+        <source>%1: cannot be loaded as a plug-in: %2</source>
+        <translation>%1: kann nicht als Plug-in geladen werden: %2</translation>
+    </message>
+    <message>
+        <source>%1: expected a plug-in with the interface &quot;%2&quot;, found &quot;%3&quot;</source>
+        <translation>%1: erwartet: ein Plug-in mit der Schnittstelle „%2“, gefunden: „%3“</translation>
+    </message>
+    <message>
+        <source>%1: expected a plug-in id in the metadata</source>
+        <translation>%1: erwartet: eine Plug-in-Kennung in den Metadaten</translation>
+    </message>
+    <message>
+        <source>%1: its object is no plug-in of this host</source>
+        <translation>%1: das Objekt ist kein Plug-in für dieses Programm</translation>
+    </message>
+    <message>
+        <source>%1: the plug-in failed to initialise</source>
+        <translation>%1: das Plug-in konnte nicht initialisiert werden</translation>
+    </message>
+</context>
+<context>
+    <name>PluginSurface</name>
+    <message>
+        <source>The plug-in has no error list.</source>
+        <translation>Das Plug-in hat keine Fehlerliste.</translation>
+    </message>
+    <message>
+        <source>The plug-in has no signal %1.</source>
+        <translation>Das Plug-in hat kein Signal %1.</translation>
+    </message>
+</context>
+<context>
+    <name>ScenarioFile</name>
+    <message>
+        <source>one of %1</source>
+        <translation>eines von %1</translation>
+    </message>
+    <message>
+        <source>the id of a camera of the site</source>
+        <translation>die Kennung einer Kamera des Standorts</translation>
+    </message>
+    <message>
+        <source>the id of a station of the site</source>
+        <translation>die Kennung einer Station des Standorts</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;</source>
+        <translation>„%1“</translation>
+    </message>
+    <message>
+        <source>the id of a volume of station &quot;%1&quot;</source>
+        <translation>die Kennung eines Volumes der Station „%1“</translation>
+    </message>
+    <message>
+        <source>a station that supports monitoring, other than this machine</source>
+        <translation>eine Station, die die Überwachung unterstützt und nicht dieser Rechner ist</translation>
+    </message>
+    <message>
+        <source>the id of a recording group of station &quot;%1&quot;</source>
+        <translation>die Kennung einer Aufzeichnungsgruppe der Station „%1“</translation>
+    </message>
+    <message>
+        <source>the id of a camera or station of the site</source>
+        <translation>die Kennung einer Kamera oder Station des Standorts</translation>
+    </message>
+</context>
+<context>
+    <name>SiteFile</name>
+    <message>
+        <source>an id without &quot;/&quot;</source>
+        <translation>eine Kennung ohne „/“</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;</source>
+        <translation>„%1“</translation>
+    </message>
+    <message>
+        <source>an id that is used once</source>
+        <translation>eine nur einmal verwendete Kennung</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; as at %2</source>
+        <translation>„%1“ wie bei %2</translation>
+    </message>
+    <message>
+        <source>an id other than that of this machine</source>
+        <translation>eine andere Kennung als die dieses Rechners</translation>
+    </message>
+</context>
+<context>
+    <name>Catalogues</name>
+    <message>
+        <source>--language: expected en or de, found &quot;%1&quot;.</source>
+        <translation>--language: erwartet: en oder de, gefunden: „%1“.</translation>
+    </message>
+</context>
+<context>
+    <name>WindowRun</name>
+    <message>
+        <source>%1 cannot be written</source>
+        <translation>%1 kann nicht geschrieben werden</translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <source>--loop: expected a window.</source>
+        <translation>--loop: erwartet: ein Fenster.</translation>
+    </message>
+</context>
+</TS>

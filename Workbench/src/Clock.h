@@ -1,0 +1,32 @@
+#ifndef CLOCK_H
+#define CLOCK_H
+
+#include <QtGlobal>
+
+#include <functional>
+
+class QObject;
+
+/// The time that a site lives by: when snoozes end and when a scenario's events are due.
+///
+/// Used on one thread.
+class Clock
+{
+public:
+    Clock() = default;
+    virtual ~Clock() = default;
+
+    Clock(const Clock &) = delete;
+    Clock &operator=(const Clock &) = delete;
+
+    /// The present time in milliseconds since the epoch.
+    virtual qint64 nowMs() const = 0;
+
+    /// Makes a call from the event loop once the clock has reached a time.
+    ///
+    /// @param timeMs  milliseconds since the epoch; a time that has passed is due at once
+    /// @param context no call is made after this object is gone
+    virtual void callAt(qint64 timeMs, QObject *context, std::function<void()> call) = 0;
+};
+
+#endif

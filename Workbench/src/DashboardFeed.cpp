@@ -1,0 +1,31 @@
+#include "DashboardFeed.h"
+
+#include "DashboardWindow.h"
+#include "ServerLink.h"
+#include "StationList.h"
+
+DashboardFeed::DashboardFeed(const ServerLink &link, DashboardWindow &window, QObject *parent)
+    : QObject(parent)
+    , m_link(link)
+    , m_window(window)
+{
+    connect(&link, &ServerLink::opened, this, &DashboardFeed::showConnection);
+    connect(&link, &ServerLink::closed, this, &DashboardFeed::showConnection);
+    connect(&link, &ServerLink::opened, this, &DashboardFeed::showStations);
+    connect(&link, &ServerLink::stationRemoved, this, &DashboardFeed::showStations);
+    connect(&link, &ServerLink::nodeStatusChanged, this, [this](NodeType type) {
+        if (type == NodeType::Station)
+            showStations();
+    });
+    showConnection();
+}
+
+void DashboardFeed::showConnection()
+{
+    m_window.setConnection(m_link.isOpen(), m_link.since());
+}
+
+void DashboardFeed::showStations()
+{
+    m_window.setStations(stationList(m_link.site()));
+}

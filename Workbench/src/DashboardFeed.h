@@ -1,0 +1,27 @@
+#ifndef DASHBOARDFEED_H
+#define DASHBOARDFEED_H
+
+#include <QObject>
+
+class DashboardWindow;
+class ServerLink;
+
+/// Keeps a dashboard informed of what the plug-in does not tell it: the connection to the server
+/// and the stations of the site. Stations stay as last known while the connection is lost.
+class DashboardFeed : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// @param link must outlive the feed, as must the window
+    DashboardFeed(const ServerLink &link, DashboardWindow &window, QObject *parent = nullptr);
+
+private:
+    void showConnection();
+    void showStations();
+
+    const ServerLink &m_link;
+    DashboardWindow &m_window;
+};
+
+#endif

@@ -1,0 +1,64 @@
+#include "DashboardWindow.h"
+
+#include "HostError.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QFileInfo>
+#include <QImage>
+#include <QQmlEngine>
+#include <QQmlError>
+#include <QQuickItem>
+
+namespace {
+
+constexpr QSize UsualSize(1280, 800);
+constexpr QSize MinimumSize(1024, 640);
+
+QString describe(const QList<QQmlError> &errors)
+{
+    QStringList lines;
+    for (const QQmlError &error : errors)
+        lines.append(error.toString());
+    return lines.join(u'\n');
+}
+
+} // namespace
+
+QUrl DashboardWindow::dashboardUrl()
+{
+    return QUrl(QStringLiteral("qrc:/qt/qml/Dashboard/DashboardView.qml"));
+}
+
+DashboardWindow::DashboardWindow(QQmlEngine &engine, QObject &plugin, const QString &siteName,
+                                 const QUrl &source)
+    : QQuickView(&engine, nullptr)
+{
+    engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
+    setTitle(tr("%1 - system monitor").arg(siteName));
+    setResizeMode(QQuickView::SizeRootObjectToView);
+    setMinimumSize(MinimumSize);
+    resize(UsualSize);
+    setInitialProperties({{QStringLiteral("plugin"), QVariant::fromValue(&plugin)},
+                          {QStringLiteral("siteName"), siteName}});
+    setSource(source);
+    if (status() != QQuickView::Ready)
+        throw HostError(tr("The dashboard cannot be loaded: %1").arg(describe(errors())));
+}
+
+void DashboardWindow::setConnection(bool isConnected, const QDateTime &since)
+{
+    rootObject()->setProperty("connectionSince", since);
+    rootObject()->setProperty("serverConnected", isConnected);
+}
+
+void DashboardWindow::setStations(const QVariantList &stations)
+{
+    rootObject()->setProperty("stations", stations);
+}
+
+bool DashboardWindow::saveImage(const QString &fileName)
+{
+    QDir().mkpath(QFileInfo(fileName).absolutePath());
+    return grabWindow().save(fileName);
+}

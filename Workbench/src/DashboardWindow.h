@@ -1,0 +1,37 @@
+#ifndef DASHBOARDWINDOW_H
+#define DASHBOARDWINDOW_H
+
+#include <QQuickView>
+#include <QUrl>
+#include <QVariantList>
+
+/// The window with the dashboard, on a display or off screen.
+class DashboardWindow : public QQuickView
+{
+    Q_OBJECT
+
+public:
+    /// Where the dashboard's root component is.
+    static QUrl dashboardUrl();
+
+    /// Loads the dashboard. Throws HostError when it cannot be loaded.
+    ///
+    /// @param engine   must outlive the window
+    /// @param plugin   the initialised plug-in, which must outlive the window
+    /// @param siteName shown as the site's name
+    /// @param source   an item with the properties that are set here
+    DashboardWindow(QQmlEngine &engine, QObject &plugin, const QString &siteName,
+                    const QUrl &source = dashboardUrl());
+
+    /// Tells the dashboard whether the server is connected, and since when that is so.
+    void setConnection(bool isConnected, const QDateTime &since);
+
+    /// Tells the dashboard of the stations, as stationList() gives them.
+    void setStations(const QVariantList &stations);
+
+    /// Draws the dashboard as it is now and saves the picture, whose format is that of the file's
+    /// suffix. The window must be shown. False when the file cannot be written.
+    bool saveImage(const QString &fileName);
+};
+
+#endif

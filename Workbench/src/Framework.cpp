@@ -1,0 +1,76 @@
+#include "Framework.h"
+
+#include "PluginBase.h"
+#include "SiteServer.h"
+
+#include <utility>
+
+Framework::Framework(Executor execute, QObject *parent)
+    : QObject(parent)
+    , m_execute(std::move(execute))
+{ }
+
+void *Framework::handle()
+{
+    return this;
+}
+
+void Framework::registerPlugin(const QString &pluginId, QObject *plugin)
+{
+    m_plugins.insert(pluginId, plugin);
+}
+
+void Framework::answerCommands()
+{
+    while (!m_commands.empty()) {
+        const Command command = m_commands.front();
+        m_commands.pop_front();
+        answer(command);
+    }
+}
+
+bool Framework::SendCommand(void *handle, const QString &senderID, const QString &command,
+                            const QVariant &data, void *context, int, const QString &target)
+{
+    // Without a sender there is nobody to answer, and the context would never be freed.
+    if (handle != this->handle() || !qobject_cast<PluginBase *>(plugin(senderID)))
+        return false;
+    m_commands.push_back({senderID, command, data, context, target});
+    QMetaObject::invokeMethod(this, &Framework::answerCommands, Qt::QueuedConnection);
+    return true;
+}
+
+bool Framework::ConnectPluginSignal(void *handle, const QString &sourceID, const char *signal,
+                                    const QString &receiverID, const char *slot, int)
+{
+    QObject *const source = plugin(sourceID);
+    QObject *const receiver = plugin(receiverID);
+    if (handle != this->handle() || !source || !receiver)
+        return false;
+    return static_cast<bool>(QObject::connect(source, signal, receiver, slot));
+}
+
+bool Framework::ShouldSkipPairWiring(void *)
+{
+    return false;
+}
+
+QObject *Framework::GetPluginObject(void *handle, const QString &pluginID)
+{
+    return handle == this->handle() ? plugin(pluginID) : nullptr;
+}
+
+QObject *Framework::plugin(const QString &pluginId) const
+{
+    return m_plugins.value(pluginId);
+}
+
+void Framework::answer(const Command &command)
+{
+    Q_EMIT commandStarted(command.name, command.data, command.target);
+    const CommandResult result = m_execute(command.name, command.data, command.target);
+    Q_EMIT commandExecuted(command.name, command.data, command.target, result.code);
+    if (const auto sender = qobject_cast<PluginBase *>(plugin(command.senderId)))
+        sender->CommandProcessor(command.name, result.data, command.context, result.code, {}, false,
+                                 command.target);
+}

@@ -1,0 +1,37 @@
+#ifndef HEADLESSRUN_H
+#define HEADLESSRUN_H
+
+#include "QuietPeriod.h"
+
+#include <QObject>
+
+class ConsoleReport;
+class Screenshot;
+class Workbench;
+
+/// Plays a scenario to its end without a user, waits until the error list has come to rest, and
+/// ends the application.
+class HeadlessRun : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// @param report     follows the Workbench already
+    /// @param screenshot to be taken on the way or in the end, or null
+    HeadlessRun(Workbench &workbench, ConsoleReport &report, Screenshot *screenshot);
+
+    /// Runs the application. Returns its exit code: 0, or 1 when the picture could not be written.
+    int exec();
+
+private:
+    void takeScreenshot();
+    void end();
+
+    Workbench &m_workbench;
+    ConsoleReport &m_report;
+    Screenshot *m_screenshot;
+    QuietPeriod m_quiet;
+    int m_exitCode = 0;
+};
+
+#endif

@@ -1,0 +1,92 @@
+#include "OperationalLogStore.h"
+
+#include "HostError.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QSqlDatabase>
+#include <QSqlError>
+#include <QSqlQuery>
+#include <QUuid>
+
+namespace {
+
+constexpr const char *CreateTable = "CREATE TABLE IF NOT EXISTS operational_log ("
+                                    "id INTEGER PRIMARY KEY, time INTEGER NOT NULL, "
+                                    "name TEXT NOT NULL, parameters TEXT NOT NULL)";
+constexpr const char *Insert =
+    "INSERT INTO operational_log (time, name, parameters) VALUES (?, ?, ?)";
+constexpr const char *SelectNewest =
+    "SELECT time, name, parameters FROM operational_log ORDER BY id DESC LIMIT ?";
+
+QString toJson(const QVariantList &list)
+{
+    return QString::fromUtf8(
+        QJsonDocument(QJsonArray::fromVariantList(list)).toJson(QJsonDocument::Compact));
+}
+
+QVariantList fromJson(const QString &text)
+{
+    return QJsonDocument::fromJson(text.toUtf8()).array().toVariantList();
+}
+
+// An empty name would make SQLite keep a file of its own.
+QString databaseName(const QString &fileName)
+{
+    return fileName.isEmpty() ? QStringLiteral(":memory:") : fileName;
+}
+
+} // namespace
+
+OperationalLogStore::OperationalLogStore(const QString &fileName)
+    : m_connectionName(QUuid::createUuid().toString())
+{
+    if (!fileName.isEmpty())
+        QDir().mkpath(QFileInfo(fileName).absolutePath());
+    QString failure;
+    {
+        QSqlDatabase database =
+            QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), m_connectionName);
+        database.setDatabaseName(databaseName(fileName));
+        QSqlQuery query(database);
+        if (!database.open())
+            failure = database.lastError().text();
+        else if (!query.exec(QLatin1String(CreateTable)))
+            failure = query.lastError().text();
+    }
+    if (!failure.isEmpty()) {
+        QSqlDatabase::removeDatabase(m_connectionName);
+        throw HostError(
+            tr("%1: cannot be used for the operational log: %2").arg(fileName, failure));
+    }
+}
+
+OperationalLogStore::~OperationalLogStore()
+{
+    QSqlDatabase::removeDatabase(m_connectionName);
+}
+
+bool OperationalLogStore::add(const OperationalLogEntry &entry)
+{
+    QSqlQuery query(QSqlDatabase::database(m_connectionName));
+    query.prepare(QLatin1String(Insert));
+    query.addBindValue(entry.time.toMSecsSinceEpoch());
+    query.addBindValue(entry.name);
+    query.addBindValue(toJson(entry.parameters));
+    return query.exec();
+}
+
+QList<OperationalLogEntry> OperationalLogStore::newest(int limit) const
+{
+    QSqlQuery query(QSqlDatabase::database(m_connectionName));
+    query.prepare(QLatin1String(SelectNewest));
+    query.addBindValue(limit);
+    query.exec();
+    QList<OperationalLogEntry> entries;
+    while (query.next())
+        entries.append({QDateTime::fromMSecsSinceEpoch(query.value(0).toLongLong()),
+                        query.value(1).toString(), fromJson(query.value(2).toString())});
+    return entries;
+}

@@ -1,0 +1,161 @@
+#include "Options.h"
+
+#include "InputError.h"
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+#include <QFileInfo>
+
+#include <cmath>
+
+namespace {
+
+constexpr double MaxSpeed = 1000;
+constexpr double MaxSeconds = 86'400;
+
+class OptionParser
+{
+    Q_DECLARE_TR_FUNCTIONS(Options)
+
+public:
+    OptionParser();
+
+    Options parse(const QStringList &arguments);
+    QString help() const;
+
+private:
+    double number(const QCommandLineOption &option, double greatest) const;
+    QString bundledOrFile(const QCommandLineOption &option, const QString &folder) const;
+
+    const QCommandLineOption m_headless{
+        QStringLiteral("headless"),
+        tr("Run without a window: play the scenario to its end, print each change of the error "
+           "list, then a summary. This is what happens, too, when there is no display.")};
+    const QCommandLineOption m_site{
+        QStringLiteral("site"),
+        tr("The site: a JSON file, or the name of a bundled one (default)."), tr("file"),
+        QStringLiteral("default")};
+    const QCommandLineOption m_scenario{
+        QStringLiteral("scenario"),
+        tr("What happens at the site: a JSON file, or the name of a bundled one (default, "
+           "everything)."),
+        tr("file"), QStringLiteral("default")};
+    const QCommandLineOption m_speed{
+        QStringLiteral("speed"),
+        tr("How many seconds of the scenario pass in a real one. Snoozes and the times printed "
+           "follow; the plug-in's own delays and the samples of this machine do not."),
+        tr("number"), QStringLiteral("1")};
+    const QCommandLineOption m_loop{QStringLiteral("loop"),
+                                    tr("Start the scenario again whenever it has ended.")};
+    const QCommandLineOption m_screenshot{
+        QStringLiteral("screenshot"),
+        tr("Save a picture of the dashboard, also without a window. The suffix names the format."),
+        tr("file")};
+    const QCommandLineOption m_screenshotAt{
+        QStringLiteral("screenshot-at"),
+        tr("When to take it, in seconds of the scenario. Without this the scenario decides, or it "
+           "is taken at the end."),
+        tr("seconds")};
+    const QCommandLineOption m_language{QStringLiteral("language"),
+                                        tr("The language of all texts: en or de."), tr("code"),
+                                        QStringLiteral("en")};
+    const QCommandLineOption m_log{
+        QStringLiteral("log"),
+        tr("Keep the operational log in this SQLite file. Without it the log is kept among the "
+           "user's data, or only in memory when there is no window."),
+        tr("file")};
+    const QCommandLineOption m_plugin{
+        QStringLiteral("plugin"),
+        tr("Load this plug-in file instead of the one that was built with this program."),
+        tr("file")};
+    const QCommandLineOption m_help{{QStringLiteral("h"), QStringLiteral("help")},
+                                    tr("Print this help.")};
+    const QCommandLineOption m_version{{QStringLiteral("v"), QStringLiteral("version")},
+                                       tr("Print the version.")};
+    QCommandLineParser m_parser;
+};
+
+OptionParser::OptionParser()
+{
+    m_parser.setApplicationDescription(
+        tr("Runs the system-monitor plug-in in a stand-in for its host: with a site of recording "
+           "stations and cameras, a scenario of what happens there, and this machine's own load.\n"
+           "\n"
+           "  workbench                                       show the dashboard\n"
+           "  workbench --headless --scenario everything      print what happens\n"
+           "  workbench --headless --screenshot picture.png   save a picture as well\n"
+           "\n"
+           "Exit codes: 0 all went well, 1 the work could not be done, 2 an option or a file is "
+           "wrong."));
+    m_parser.addOptions({m_headless, m_site, m_scenario, m_speed, m_loop, m_screenshot,
+                         m_screenshotAt, m_language, m_log, m_plugin, m_help, m_version});
+}
+
+Options OptionParser::parse(const QStringList &arguments)
+{
+    if (!m_parser.parse(arguments))
+        throw InputError(m_parser.errorText());
+    if (!m_parser.positionalArguments().isEmpty())
+        throw InputError(tr("Expected options only, found \"%1\".")
+                             .arg(m_parser.positionalArguments().constFirst()));
+    Options options;
+    options.wantsHelp = m_parser.isSet(m_help);
+    options.wantsVersion = m_parser.isSet(m_version);
+    options.isHeadless = m_parser.isSet(m_headless);
+    options.isLooped = m_parser.isSet(m_loop);
+    options.siteFile = bundledOrFile(m_site, QStringLiteral("sites"));
+    options.scenarioFile = bundledOrFile(m_scenario, QStringLiteral("scenarios"));
+    options.pluginFile = m_parser.value(m_plugin);
+    options.language = m_parser.value(m_language);
+    options.speed = number(m_speed, MaxSpeed);
+    options.screenshotFile = m_parser.value(m_screenshot);
+    if (m_parser.isSet(m_screenshotAt) && options.screenshotFile.isEmpty())
+        throw InputError(tr("--screenshot-at: expected --screenshot FILE as well."));
+    if (m_parser.isSet(m_screenshotAt))
+        options.screenshotAtMs = std::llround(number(m_screenshotAt, MaxSeconds) * 1000.0);
+    if (m_parser.isSet(m_log))
+        options.logFile = m_parser.value(m_log);
+    return options;
+}
+
+QString OptionParser::help() const
+{
+    return m_parser.helpText();
+}
+
+double OptionParser::number(const QCommandLineOption &option, double greatest) const
+{
+    bool isNumber = false;
+    const QString text = m_parser.value(option);
+    const double number = text.toDouble(&isNumber);
+    if (!isNumber || !(number > 0 && number <= greatest))
+        throw InputError(tr("--%1: expected a number greater than 0 and up to %2, found \"%3\".")
+                             .arg(option.names().constFirst())
+                             .arg(greatest)
+                             .arg(text));
+    return number;
+}
+
+QString OptionParser::bundledOrFile(const QCommandLineOption &option, const QString &folder) const
+{
+    const QString value = m_parser.value(option);
+    const QString bundled = QStringLiteral(":/workbench/%1/%2.json").arg(folder, value);
+    return !QFileInfo::exists(value) && QFileInfo::exists(bundled) ? bundled : value;
+}
+
+} // namespace
+
+Options parseOptions(const QStringList &arguments)
+{
+    return OptionParser().parse(arguments);
+}
+
+QString optionsHelp()
+{
+    return OptionParser().help();
+}
+
+QString defaultPluginFile()
+{
+    return QCoreApplication::applicationDirPath() + QStringLiteral("/" WORKBENCH_DEFAULT_PLUGIN);
+}

@@ -1,0 +1,35 @@
+#ifndef OPTIONS_H
+#define OPTIONS_H
+
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+/// What the user asks for on the command line.
+struct Options
+{
+    QString siteFile;                     ///< a file, or a resource
+    QString scenarioFile;                 ///< a file, or a resource
+    QString pluginFile;                   ///< empty for defaultPluginFile()
+    QString screenshotFile;               ///< empty for none
+    std::optional<qint64> screenshotAtMs; ///< of the scenario; the scenario decides without it
+    std::optional<QString> logFile;
+    QString language;
+    double speed = 1.0;
+    bool isHeadless = false;
+    bool isLooped = false;
+    bool wantsHelp = false;
+    bool wantsVersion = false;
+};
+
+/// Reads the command line, whose first argument is the program's own name. Throws InputError.
+Options parseOptions(const QStringList &arguments);
+
+/// What the command line may hold, for the user. Needs an application object.
+QString optionsHelp();
+
+/// The plug-in that was built with this program. Needs an application object.
+QString defaultPluginFile();
+
+#endif

@@ -1,0 +1,21 @@
+#ifndef SCALEDCLOCK_H
+#define SCALEDCLOCK_H
+
+#include "Clock.h"
+
+/// The system's clock, or one that starts with it and then runs faster or slower.
+class ScaledClock : public Clock
+{
+public:
+    /// @param speed how many seconds pass on this clock in a real one; greater than 0
+    explicit ScaledClock(double speed = 1.0);
+
+    qint64 nowMs() const override;
+    void callAt(qint64 timeMs, QObject *context, std::function<void()> call) override;
+
+private:
+    const double m_speed;
+    const qint64 m_startMs;
+};
+
+#endif

@@ -1,0 +1,44 @@
+#include "ScenarioDriver.h"
+
+#include "Clock.h"
+
+#include <algorithm>
+#include <utility>
+
+ScenarioDriver::ScenarioDriver(Scenario scenario, Clock &clock, QObject *parent)
+    : QObject(parent)
+    , m_scenario(std::move(scenario))
+    , m_clock(clock)
+{ }
+
+void ScenarioDriver::start()
+{
+    m_startMs = m_clock.nowMs();
+    m_next = 0;
+    m_isScreenshotDue = m_scenario.screenshotAtMs.has_value();
+    m_clock.callAt(m_startMs, this, [this] { advance(); });
+}
+
+void ScenarioDriver::advance()
+{
+    const std::vector<ScenarioEvent> &events = m_scenario.events;
+    const qint64 elapsed = m_clock.nowMs() - m_startMs;
+    qint64 wakeUp = m_scenario.endMs;
+
+    while (m_next < events.size() && events[m_next].atMs <= elapsed)
+        Q_EMIT due(events[m_next++].action);
+    if (m_next < events.size())
+        wakeUp = std::min(wakeUp, events[m_next].atMs);
+
+    if (m_isScreenshotDue && *m_scenario.screenshotAtMs <= elapsed) {
+        m_isScreenshotDue = false;
+        Q_EMIT screenshotDue();
+    }
+    if (m_isScreenshotDue)
+        wakeUp = std::min(wakeUp, *m_scenario.screenshotAtMs);
+
+    if (elapsed >= m_scenario.endMs)
+        Q_EMIT finished();
+    else
+        m_clock.callAt(m_startMs + wakeUp, this, [this] { advance(); });
+}

@@ -1,0 +1,189 @@
+#include "SiteServer.h"
+
+#include "Clock.h"
+#include "ServerNames.h"
+
+#include <QCoreApplication>
+#include <QEvent>
+
+#include <utility>
+
+namespace {
+
+constexpr qint64 ReportIntervalMs = 1000;
+
+} // namespace
+
+SiteServer::SiteServer(Site site, Clock &clock, QObject *parent)
+    : QObject(parent)
+    , m_clock(clock)
+    , m_site(std::move(site))
+{
+    m_clock.callAt(m_clock.nowMs() + ReportIntervalMs, this, [this] { reportAll(); });
+}
+
+void SiteServer::reset(Site site)
+{
+    m_site = std::move(site);
+    m_snoozes.clear();
+    // Events of the former site that are still on their way.
+    QCoreApplication::removePostedEvents(this, QEvent::MetaCall);
+}
+
+bool SiteServer::setCameraConnected(const QString &cameraId, bool connected)
+{
+    Camera *const camera = m_site.findCamera(cameraId);
+    if (!camera)
+        return false;
+    camera->connected = connected;
+    Q_EMIT nodeStatusChanged(NodeType::Camera, cameraId, connected);
+    return true;
+}
+
+bool SiteServer::setStationConnected(const QString &stationId, bool connected)
+{
+    Station *const station = m_site.findStation(stationId);
+    if (!station)
+        return false;
+    station->connected = connected;
+    Q_EMIT nodeStatusChanged(NodeType::Station, stationId, connected);
+    if (connected) {
+        announceDisconnected(*station);
+        announceStorage(*station);
+    }
+    return true;
+}
+
+bool SiteServer::removeCamera(const QString &cameraId)
+{
+    if (!m_site.removeCamera(cameraId))
+        return false;
+    Q_EMIT cameraRemoved(cameraId);
+    dropSnooze(cameraId);
+    return true;
+}
+
+bool SiteServer::removeStation(const QString &stationId)
+{
+    const Station *const station = m_site.findStation(stationId);
+    if (!station)
+        return false;
+    QStringList gone;
+    Site below;
+    below.stations.push_back(*station);
+    below.forEachStation([&gone](const Station &removed) {
+        gone.append(removed.id);
+        for (const Camera &camera : removed.cameras)
+            gone.append(camera.id);
+    });
+    m_site.removeStation(stationId);
+    Q_EMIT stationRemoved(stationId);
+    for (const QString &nodeId : std::as_const(gone))
+        dropSnooze(nodeId);
+    return true;
+}
+
+bool SiteServer::setVolumeConnected(const QString &stationId, const QString &volumeId,
+                                    bool connected)
+{
+    Station *const station = m_site.findStation(stationId);
+    Volume *const volume = station ? station->findVolume(volumeId) : nullptr;
+    if (!volume)
+        return false;
+    volume->connected = connected;
+    if (station->connected)
+        Q_EMIT storageChanged(stationId);
+    return true;
+}
+
+bool SiteServer::setRecordedDays(const QString &stationId, const QString &groupId, int days)
+{
+    Station *const station = m_site.findStation(stationId);
+    RecordingGroup *const group = station ? station->findRecordingGroup(groupId) : nullptr;
+    if (!group)
+        return false;
+    group->recordedDays = days;
+    if (station->connected)
+        Q_EMIT storageChanged(stationId);
+    return true;
+}
+
+bool SiteServer::renameRecordingGroup(const QString &stationId, const QString &groupId,
+                                      const QString &name)
+{
+    Station *const station = m_site.findStation(stationId);
+    RecordingGroup *const group = station ? station->findRecordingGroup(groupId) : nullptr;
+    if (!group)
+        return false;
+    group->name = name;
+    if (station->connected)
+        Q_EMIT storageChanged(stationId);
+    return true;
+}
+
+bool SiteServer::reportResources(const QString &stationId, const ResourceReport &report)
+{
+    const Station *const station = m_site.findStation(stationId);
+    if (!station || !station->connected || !station->supportsMonitoring)
+        return false;
+    raise(ServerNames::SystemResChanged, toEventData(report), stationId);
+    return true;
+}
+
+bool SiteServer::setResources(const QString &stationId, const ResourceReport &level)
+{
+    Station *const station = m_site.findStation(stationId);
+    if (!station)
+        return false;
+    station->resources = level;
+    return reportResources(stationId, level);
+}
+
+void SiteServer::reportReachingLimit(const QString &serverName, double percentage)
+{
+    raise(ServerNames::ServerReachingLimited,
+          QVariantMap{{ServerNames::KeyServerName, serverName},
+                      {ServerNames::KeyVirtualSizePercentage, percentage}});
+}
+
+// Clients drop what they know of the nodes below a lost station, so they need to hear it again.
+void SiteServer::announceDisconnected(const Station &station)
+{
+    for (const Camera &camera : station.cameras) {
+        if (!camera.connected)
+            Q_EMIT nodeStatusChanged(NodeType::Camera, camera.id, false);
+    }
+    for (const Station &below : station.stations) {
+        if (!below.connected)
+            Q_EMIT nodeStatusChanged(NodeType::Station, below.id, false);
+        else
+            announceDisconnected(below);
+    }
+}
+
+void SiteServer::announceStorage(const Station &station)
+{
+    if (!station.connected)
+        return;
+    Q_EMIT storageChanged(station.id);
+    for (const Station &below : station.stations)
+        announceStorage(below);
+}
+
+void SiteServer::raise(const QString &name, const QVariant &data, const QString &sourceId)
+{
+    QMetaObject::invokeMethod(
+        this, [this, name, data, sourceId] { Q_EMIT eventRaised(name, data, sourceId); },
+        Qt::QueuedConnection);
+}
+
+void SiteServer::reportAll()
+{
+    ++m_reportCount;
+    m_site.forEachStation([this](const Station &station) {
+        if (station.resources)
+            reportResources(station.id,
+                            livelyReport(*station.resources, qHash(station.id), m_reportCount));
+    });
+    m_clock.callAt(m_clock.nowMs() + ReportIntervalMs, this, [this] { reportAll(); });
+}

@@ -1,0 +1,41 @@
+#include "WindowRun.h"
+
+#include "DashboardWindow.h"
+#include "Screenshot.h"
+#include "Workbench.h"
+
+#include <QCoreApplication>
+#include <QDebug>
+
+#include <cstdlib>
+
+WindowRun::WindowRun(Workbench &workbench, DashboardWindow &window, Screenshot *screenshot,
+                     bool isLooped)
+    : m_workbench(workbench)
+    , m_window(window)
+    , m_screenshot(screenshot)
+{
+    ScenarioDriver &driver = workbench.driver();
+    connect(&driver, &ScenarioDriver::screenshotDue, this, &WindowRun::takeScreenshot);
+    connect(&driver, &ScenarioDriver::finished, this, &WindowRun::takeScreenshot);
+    if (isLooped)
+        connect(&driver, &ScenarioDriver::finished, &workbench, &Workbench::start);
+}
+
+int WindowRun::exec()
+{
+    m_window.show();
+    m_workbench.start();
+    const int code = QCoreApplication::exec();
+    return m_hasFailed ? EXIT_FAILURE : code;
+}
+
+void WindowRun::takeScreenshot()
+{
+    if (!m_screenshot || m_screenshot->isTaken())
+        return;
+    if (!m_screenshot->take()) {
+        m_hasFailed = true;
+        qWarning().noquote() << tr("%1 cannot be written").arg(m_screenshot->fileName());
+    }
+}

@@ -1,0 +1,154 @@
+#include "Catalogues.h"
+#include "ConsoleReport.h"
+#include "DashboardFeed.h"
+#include "DashboardWindow.h"
+#include "Display.h"
+#include "HeadlessRun.h"
+#include "HostError.h"
+#include "InputError.h"
+#include "Options.h"
+#include "PluginHost.h"
+#include "ScaledClock.h"
+#include "ScenarioFile.h"
+#include "Screenshot.h"
+#include "SiteFile.h"
+#include "WindowRun.h"
+#include "Workbench.h"
+
+#include <QGuiApplication>
+#include <QProcessEnvironment>
+#include <QQmlEngine>
+#include <QStandardPaths>
+#include <QTextStream>
+
+#include <algorithm>
+#include <cstdlib>
+#include <memory>
+
+namespace {
+
+constexpr int ExitBadInput = 2;
+
+QStringList toStringList(int argc, char **argv)
+{
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments.append(QString::fromLocal8Bit(argv[i]));
+    return arguments;
+}
+
+bool runsHeadless(const Options &options)
+{
+    return options.isHeadless || !hasDisplay(QProcessEnvironment::systemEnvironment());
+}
+
+// Help, and what is said of a wrong option, needs no window system.
+std::unique_ptr<QCoreApplication> createApplication(const Options &options, int &argc, char **argv)
+{
+    if (options.wantsHelp || options.wantsVersion)
+        return std::make_unique<QCoreApplication>(argc, argv);
+    if (runsHeadless(options))
+        drawOffscreen();
+    return std::make_unique<QGuiApplication>(argc, argv);
+}
+
+Site readSite(const Options &options)
+{
+    Site site = readSiteFile(options.siteFile);
+    site.stations.push_back(LocalStation::station());
+    return site;
+}
+
+Scenario readScenario(const Options &options, const Site &site)
+{
+    Scenario scenario = readScenarioFile(options.scenarioFile, site);
+    if (options.screenshotAtMs) {
+        scenario.screenshotAtMs = options.screenshotAtMs;
+        scenario.endMs = std::max(scenario.endMs, *options.screenshotAtMs);
+    }
+    return scenario;
+}
+
+QString logFile(const Options &options)
+{
+    if (options.logFile || runsHeadless(options))
+        return options.logFile.value_or(QString());
+    return QStandardPaths::writableLocation(QStandardPaths::AppDataLocation)
+           + QStringLiteral("/operational-log.sqlite");
+}
+
+int play(const Options &options, Catalogues &catalogues)
+{
+    const bool isHeadless = runsHeadless(options);
+    if (isHeadless && options.isLooped)
+        throw InputError(QCoreApplication::translate("main", "--loop: expected a window."));
+    const Site site = readSite(options);
+    const Scenario scenario = readScenario(options, site);
+
+    PluginHost host(options.pluginFile.isEmpty() ? defaultPluginFile() : options.pluginFile);
+    catalogues.installNew();
+    ScaledClock clock(options.speed);
+    OperationalLogStore log(logFile(options));
+    std::unique_ptr<QQmlEngine> engine;
+    if (!isHeadless || !options.screenshotFile.isEmpty())
+        engine = std::make_unique<QQmlEngine>();
+    Workbench workbench(host, engine ? engine->rootContext() : nullptr, site, scenario, log, clock);
+
+    std::unique_ptr<DashboardWindow> window;
+    std::unique_ptr<DashboardFeed> feed;
+    std::unique_ptr<Screenshot> screenshot;
+    if (engine) {
+        window =
+            std::make_unique<DashboardWindow>(*engine, workbench.surface().plugin(), site.name);
+        feed = std::make_unique<DashboardFeed>(workbench.link(), *window);
+    }
+    if (!options.screenshotFile.isEmpty())
+        screenshot = std::make_unique<Screenshot>(*window, options.screenshotFile);
+
+    if (!isHeadless)
+        return WindowRun(workbench, *window, screenshot.get(), options.isLooped).exec();
+
+    if (window)
+        window->show();
+    QTextStream out(stdout);
+    ConsoleReport report(out, clock);
+    report.follow(workbench);
+    return HeadlessRun(workbench, report, screenshot.get()).exec();
+}
+
+int run(int argc, char **argv)
+{
+    const QStringList arguments = toStringList(argc, argv);
+    const Options options = parseOptions(arguments);
+    const std::unique_ptr<QCoreApplication> application = createApplication(options, argc, argv);
+    Catalogues catalogues(options.language);
+    if (options.wantsHelp)
+        QTextStream(stdout) << optionsHelp();
+    else if (options.wantsVersion)
+        QTextStream(stdout) << "workbench " WORKBENCH_VERSION "\n";
+    else
+        return play(options, catalogues);
+    return EXIT_SUCCESS;
+}
+
+void complain(const QString &message)
+{
+    QTextStream(stderr) << "workbench: " << message << '\n';
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    QCoreApplication::setApplicationName(QStringLiteral("workbench"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(WORKBENCH_VERSION));
+    try {
+        return run(argc, argv);
+    } catch (const InputError &error) {
+        complain(error.message());
+        return ExitBadInput;
+    } catch (const HostError &error) {
+        complain(error.message());
+        return EXIT_FAILURE;
+    }
+}

@@ -1,0 +1,19 @@
+import QtQuick
+
+Item {
+    id: root
+
+    required property QtObject plugin
+    property string siteName
+    property bool serverConnected: false
+    property var connectionSince
+    property var stations: []
+
+    anchors.fill: parent
+
+    Rectangle {
+        width: parent.width / 2
+        height: parent.height
+        color: root.serverConnected ? "#00ff00" : "#ff0000"
+    }
+}

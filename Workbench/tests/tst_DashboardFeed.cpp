@@ -1,0 +1,113 @@
+#include "DashboardFeed.h"
+
+#include "DashboardWindow.h"
+#include "ServerLink.h"
+#include "TestSite.h"
+#include "VirtualClock.h"
+
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QTest>
+
+#include <memory>
+
+class tst_DashboardFeed : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void showsTheConnectionAtOnce();
+    void followsTheConnection();
+    void followsTheStations();
+    void stationsStayAsLastKnown();
+
+private:
+    QVariant shown(const char *property) const;
+    QStringList shownStations() const;
+
+    VirtualClock m_clock;
+    QQmlEngine m_engine;
+    QObject m_plugin;
+    std::unique_ptr<SiteServer> m_server;
+    std::unique_ptr<ServerLink> m_link;
+    std::unique_ptr<DashboardWindow> m_window;
+    std::unique_ptr<DashboardFeed> m_feed;
+};
+
+void tst_DashboardFeed::init()
+{
+    m_server = std::make_unique<SiteServer>(testSite(), m_clock);
+    m_link = std::make_unique<ServerLink>(*m_server);
+    m_window = std::make_unique<DashboardWindow>(
+        m_engine, m_plugin, QString(), QUrl::fromLocalFile(QFINDTESTDATA("data/Dashboard.qml")));
+    m_feed = std::make_unique<DashboardFeed>(*m_link, *m_window);
+}
+
+void tst_DashboardFeed::cleanup()
+{
+    m_feed.reset();
+    m_window.reset();
+    m_link.reset();
+    m_server.reset();
+}
+
+QVariant tst_DashboardFeed::shown(const char *property) const
+{
+    return m_window->rootObject()->property(property);
+}
+
+QStringList tst_DashboardFeed::shownStations() const
+{
+    QStringList stations;
+    const QVariantList list = shown("stations").toList();
+    for (const QVariant &entry : list) {
+        const QVariantMap station = entry.toMap();
+        const bool isUp = station.value(QStringLiteral("connected")).toBool();
+        stations.append(station.value(QStringLiteral("stationID")).toString()
+                        + (isUp ? QString() : QStringLiteral(" down")));
+    }
+    return stations;
+}
+
+void tst_DashboardFeed::showsTheConnectionAtOnce()
+{
+    QCOMPARE(shown("serverConnected").toBool(), false);
+    QCOMPARE(shown("connectionSince").toDateTime(), m_link->since());
+    QCOMPARE(shownStations(), QStringList());
+}
+
+void tst_DashboardFeed::followsTheConnection()
+{
+    m_link->open();
+    QCOMPARE(shown("serverConnected").toBool(), true);
+    QCOMPARE(shown("connectionSince").toDateTime(), m_link->since());
+    m_link->close();
+    QCOMPARE(shown("serverConnected").toBool(), false);
+    QCOMPARE(shown("connectionSince").toDateTime(), m_link->since());
+}
+
+void tst_DashboardFeed::followsTheStations()
+{
+    m_link->open();
+    QCOMPARE(shownStations(), QStringList({QStringLiteral("north"), QStringLiteral("north/annex"),
+                                           QStringLiteral("south")}));
+    m_server->setStationConnected(QStringLiteral("south"), false);
+    m_server->removeStation(QStringLiteral("north/annex"));
+    QCOMPARE(shownStations(), QStringList({QStringLiteral("north"), QStringLiteral("south down")}));
+}
+
+void tst_DashboardFeed::stationsStayAsLastKnown()
+{
+    m_link->open();
+    m_link->close();
+    m_server->removeStation(QStringLiteral("north"));
+    QCOMPARE(shownStations().size(), 3);
+    m_link->open();
+    QCOMPARE(shownStations(), QStringList{QStringLiteral("south")});
+}
+
+QTEST_MAIN(tst_DashboardFeed)
+#include "tst_DashboardFeed.moc"

@@ -1,0 +1,128 @@
+#include "DashboardWindow.h"
+
+#include "HostError.h"
+#include "TextFile.h"
+
+#include <QDateTime>
+#include <QImage>
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QRegularExpression>
+#include <QTest>
+
+namespace {
+
+QUrl testFile(const QString &name)
+{
+    return QUrl::fromLocalFile(QFINDTESTDATA("data/") + name);
+}
+
+} // namespace
+
+class tst_DashboardWindow : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral("."))); }
+
+    void handsOverPluginAndSite();
+    void dashboardFillsTheWindow();
+    void tellsOfTheConnection();
+    void tellsOfTheStations();
+    void savesWhatIsShown();
+    void tellsWhenThePictureCannotBeWritten();
+    void refusesADashboardThatCannotBeLoaded();
+};
+
+void tst_DashboardWindow::handsOverPluginAndSite()
+{
+    QQmlEngine engine;
+    QObject plugin;
+    const DashboardWindow window(engine, plugin, QStringLiteral("Harbour"),
+                                 testFile(QStringLiteral("Dashboard.qml")));
+    QCOMPARE(window.rootObject()->property("plugin").value<QObject *>(), &plugin);
+    QCOMPARE(window.rootObject()->property("siteName").toString(), QStringLiteral("Harbour"));
+    QVERIFY(window.title().contains(QStringLiteral("Harbour")));
+}
+
+void tst_DashboardWindow::dashboardFillsTheWindow()
+{
+    QQmlEngine engine;
+    QObject plugin;
+    DashboardWindow window(engine, plugin, {}, testFile(QStringLiteral("Dashboard.qml")));
+    QCOMPARE(window.size(), QSize(1280, 800));
+    QCOMPARE(window.minimumSize(), QSize(1024, 640));
+    window.show();
+    window.resize(1600, 900);
+    QTRY_COMPARE(window.rootObject()->size(), QSizeF(1600, 900));
+}
+
+void tst_DashboardWindow::tellsOfTheConnection()
+{
+    QQmlEngine engine;
+    QObject plugin;
+    DashboardWindow window(engine, plugin, {}, testFile(QStringLiteral("Dashboard.qml")));
+    const QDateTime since = QDateTime::fromMSecsSinceEpoch(1'780'660'800'000);
+    window.setConnection(true, since);
+    QCOMPARE(window.rootObject()->property("serverConnected").toBool(), true);
+    QCOMPARE(window.rootObject()->property("connectionSince").toDateTime(), since);
+    window.setConnection(false, since);
+    QCOMPARE(window.rootObject()->property("serverConnected").toBool(), false);
+}
+
+void tst_DashboardWindow::tellsOfTheStations()
+{
+    QQmlEngine engine;
+    QObject plugin;
+    DashboardWindow window(engine, plugin, {}, testFile(QStringLiteral("Dashboard.qml")));
+    const QVariantList stations{QVariantMap{{QStringLiteral("stationID"), QStringLiteral("st")}}};
+    window.setStations(stations);
+    QCOMPARE(window.rootObject()->property("stations").toList(), stations);
+}
+
+void tst_DashboardWindow::savesWhatIsShown()
+{
+    QQmlEngine engine;
+    QObject plugin;
+    DashboardWindow window(engine, plugin, {}, testFile(QStringLiteral("Dashboard.qml")));
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    window.setConnection(true, {});
+    const QTemporaryDir directory;
+    const QString file = directory.filePath(QStringLiteral("new/folder/picture.png"));
+    QVERIFY(window.saveImage(file));
+    const QImage image(file);
+    QCOMPARE(image.size(), QSize(1280, 800));
+    QCOMPARE(image.pixelColor(100, 100), QColor(0, 255, 0));
+    QCOMPARE(image.pixelColor(1200, 100), QColor(255, 255, 255));
+}
+
+void tst_DashboardWindow::tellsWhenThePictureCannotBeWritten()
+{
+    QQmlEngine engine;
+    QObject plugin;
+    DashboardWindow window(engine, plugin, {}, testFile(QStringLiteral("Dashboard.qml")));
+    window.show();
+    const QTemporaryDir directory;
+    QVERIFY(!window.saveImage(directory.filePath(QStringLiteral("picture.unknown"))));
+    const TextFile file("text", QStringLiteral("file"));
+    QVERIFY(!window.saveImage(file.path() + QStringLiteral("/picture.png")));
+}
+
+void tst_DashboardWindow::refusesADashboardThatCannotBeLoaded()
+{
+    QQmlEngine engine;
+    QObject plugin;
+    QString message;
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("Broken.qml")));
+    try {
+        const DashboardWindow window(engine, plugin, {}, testFile(QStringLiteral("Broken.qml")));
+    } catch (const HostError &error) {
+        message = error.message();
+    }
+    QVERIFY2(message.contains(QStringLiteral("Broken.qml:1")), qPrintable(message));
+}
+
+QTEST_MAIN(tst_DashboardWindow)
+#include "tst_DashboardWindow.moc"

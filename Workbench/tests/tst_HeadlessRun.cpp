@@ -1,0 +1,99 @@
+#include "HeadlessRun.h"
+
+#include "ConsoleReport.h"
+#include "DashboardWindow.h"
+#include "Screenshot.h"
+#include "WorkbenchFixture.h"
+
+#include <QImage>
+#include <QQmlEngine>
+#include <QTest>
+#include <QTextStream>
+#include <QTimer>
+
+#include <memory>
+
+class tst_HeadlessRun : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup();
+
+    void endsWithASummary();
+    void screenshotIsTakenWhenItIsDue();
+    void screenshotIsTakenAtTheEndOtherwise();
+    void screenshotThatCannotBeWrittenShowsInTheExitCode();
+
+private:
+    int run(const Scenario &scenario, const QString &picture = {});
+
+    QTemporaryDir m_directory;
+    QQmlEngine m_engine;
+    std::unique_ptr<WorkbenchFixture> m_fixture;
+    std::unique_ptr<DashboardWindow> m_window;
+    QString m_output;
+};
+
+void tst_HeadlessRun::cleanup()
+{
+    m_window.reset();
+    m_fixture.reset();
+}
+
+int tst_HeadlessRun::run(const Scenario &scenario, const QString &picture)
+{
+    m_fixture = std::make_unique<WorkbenchFixture>(
+        QStringLiteral(TEST_PLUGIN_FOLDER "/FakeMonitorPlugin.so"), scenario);
+    m_window = std::make_unique<DashboardWindow>(
+        m_engine, m_fixture->workbench.surface().plugin(), QString(),
+        QUrl::fromLocalFile(QFINDTESTDATA("data/Dashboard.qml")));
+    m_window->show();
+    Screenshot screenshot(*m_window, picture);
+    m_output.clear();
+    QTextStream out(&m_output);
+    ConsoleReport report(out, m_fixture->clock);
+    report.follow(m_fixture->workbench);
+    HeadlessRun run(m_fixture->workbench, report, picture.isEmpty() ? nullptr : &screenshot);
+    QTimer::singleShot(0, this, [this] { m_fixture->clock.advance(60'000); });
+    return run.exec();
+}
+
+void tst_HeadlessRun::endsWithASummary()
+{
+    QCOMPARE(run({{{1000, ScenarioAction::SetServerConnected{false}}}, {}, 2000}), 0);
+    const QStringList lines = m_output.split(u'\n');
+    QCOMPARE(lines.value(0), QStringLiteral("2026-06-05 14:00:00 CEST  server    connected"));
+    QCOMPARE(lines.value(1), QStringLiteral("2026-06-05 14:00:01 CEST  server    connection lost"));
+    QCOMPARE(lines.value(3), QStringLiteral("Summary"));
+}
+
+void tst_HeadlessRun::screenshotIsTakenWhenItIsDue()
+{
+    const QString file = m_directory.filePath(QStringLiteral("due.png"));
+    QCOMPARE(run({{{1000, ScenarioAction::SetServerConnected{false}}}, 500, 1000}, file), 0);
+    QVERIFY(!QImage(file).isNull());
+    const QStringList lines = m_output.split(u'\n');
+    QCOMPARE(lines.value(1),
+             QStringLiteral("2026-06-05 14:00:00 CEST  picture   saved as ") + file);
+    QCOMPARE(m_output.count(QStringLiteral("picture")), 1);
+}
+
+void tst_HeadlessRun::screenshotIsTakenAtTheEndOtherwise()
+{
+    const QString file = m_directory.filePath(QStringLiteral("end.png"));
+    QCOMPARE(run({{}, {}, 1000}, file), 0);
+    QVERIFY(!QImage(file).isNull());
+    QVERIFY(m_output.contains(QStringLiteral("saved as ") + file));
+}
+
+void tst_HeadlessRun::screenshotThatCannotBeWrittenShowsInTheExitCode()
+{
+    const QString file = m_directory.filePath(QStringLiteral("picture.unknown"));
+    QCOMPARE(run({{}, {}, 0}, file), 1);
+    QVERIFY(m_output.contains(file + QStringLiteral(" cannot be written")));
+    QVERIFY(m_output.contains(QStringLiteral("Summary")));
+}
+
+QTEST_MAIN(tst_HeadlessRun)
+#include "tst_HeadlessRun.moc"

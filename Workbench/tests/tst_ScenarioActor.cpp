@@ -1,0 +1,149 @@
+#include "ScenarioActor.h"
+
+#include "FakeMonitor.h"
+#include "PluginSurface.h"
+#include "ServerLink.h"
+#include "SignalLog.h"
+#include "TestSite.h"
+#include "TopologyPlugin.h"
+#include "VirtualClock.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+#include <memory>
+
+using namespace ScenarioAction;
+
+class tst_ScenarioActor : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void changesTheSite();
+    void changesStorage();
+    void reportsFromTheSite();
+    void opensAndClosesTheLink();
+    void announcesRetrievedStates();
+    void doesWhatTheUserDoes();
+    void snoozeIsRoundedUpToWholeSeconds();
+
+private:
+    void perform(const AnyScenarioAction &action) { m_actor->perform(action); }
+
+    CallLog m_log;
+    std::unique_ptr<VirtualClock> m_clock;
+    std::unique_ptr<FakeMonitor> m_monitor;
+    std::unique_ptr<SiteServer> m_server;
+    std::unique_ptr<ServerLink> m_link;
+    std::unique_ptr<TopologyPlugin> m_topology;
+    std::unique_ptr<PluginSurface> m_surface;
+    std::unique_ptr<ScenarioActor> m_actor;
+};
+
+void tst_ScenarioActor::init()
+{
+    m_log.take();
+    m_clock = std::make_unique<VirtualClock>();
+    m_monitor = std::make_unique<FakeMonitor>(m_log);
+    m_server = std::make_unique<SiteServer>(testSite(), *m_clock);
+    m_link = std::make_unique<ServerLink>(*m_server);
+    m_topology = std::make_unique<TopologyPlugin>();
+    m_surface = std::make_unique<PluginSurface>(*m_monitor);
+    m_actor = std::make_unique<ScenarioActor>(
+        ScenarioActor::Stage{*m_server, *m_link, *m_topology, *m_surface, *m_clock});
+}
+
+void tst_ScenarioActor::cleanup()
+{
+    m_surface.reset();
+    m_link.reset();
+    m_server.reset();
+}
+
+void tst_ScenarioActor::changesTheSite()
+{
+    perform(SetCameraConnected{QStringLiteral("north/c1"), false});
+    perform(SetStationConnected{QStringLiteral("south"), false});
+    perform(RemoveCamera{QStringLiteral("north/c2")});
+    perform(RemoveStation{QStringLiteral("north/annex")});
+    const Site &site = m_server->site();
+    QVERIFY(!site.findCamera(QStringLiteral("north/c1"))->connected);
+    QVERIFY(!site.findStation(QStringLiteral("south"))->connected);
+    QVERIFY(!site.findCamera(QStringLiteral("north/c2")));
+    QVERIFY(!site.findStation(QStringLiteral("north/annex")));
+    perform(SetCameraConnected{QStringLiteral("north/c1"), true});
+    perform(SetStationConnected{QStringLiteral("south"), true});
+    QVERIFY(site.findCamera(QStringLiteral("north/c1"))->connected);
+    QVERIFY(site.findStation(QStringLiteral("south"))->connected);
+}
+
+void tst_ScenarioActor::changesStorage()
+{
+    const QString north = QStringLiteral("north");
+    perform(SetVolumeConnected{north, QStringLiteral("v2"), false});
+    perform(SetRecordedDays{north, QStringLiteral("g1"), 4});
+    perform(RenameRecordingGroup{north, QStringLiteral("g1"), QStringLiteral("Doors")});
+    const Station &station = *m_server->site().findStation(north);
+    QVERIFY(station.hasLostVolume());
+    QCOMPARE(station.recordingGroups.at(0).recordedDays, 4);
+    QCOMPARE(station.recordingGroups.at(0).name, QStringLiteral("Doors"));
+    perform(SetVolumeConnected{north, QStringLiteral("v2"), true});
+    QVERIFY(!station.hasLostVolume());
+}
+
+void tst_ScenarioActor::reportsFromTheSite()
+{
+    const QSignalSpy events(m_server.get(), &SiteServer::eventRaised);
+    perform(SetResources{QStringLiteral("north"), {97, 12, {}}});
+    perform(ReportReachingLimit{QStringLiteral("Main"), 87.5});
+    QCoreApplication::sendPostedEvents();
+    QCOMPARE(events.size(), 2);
+    QCOMPARE(events.at(0).at(0).toString(), QStringLiteral("SystemResChanged"));
+    QCOMPARE(events.at(1).at(0).toString(), QStringLiteral("ServerReachingLimited"));
+    QCOMPARE(m_server->site().findStation(QStringLiteral("north"))->resources->cpuPercentage, 97);
+}
+
+void tst_ScenarioActor::opensAndClosesTheLink()
+{
+    perform(SetServerConnected{true});
+    QVERIFY(m_link->isOpen());
+    perform(SetServerConnected{false});
+    QVERIFY(!m_link->isOpen());
+}
+
+void tst_ScenarioActor::announcesRetrievedStates()
+{
+    const SignalLog emitted(m_topology.get(), m_log);
+    perform(RetrieveStates{true});
+    perform(RetrieveStates{false});
+    QCOMPARE(m_log.take(), QStringList({QStringLiteral("camStatusRetrievedChanged(true)"),
+                                        QStringLiteral("camStatusRetrievedChanged(false)")}));
+}
+
+void tst_ScenarioActor::doesWhatTheUserDoes()
+{
+    perform(ReconnectCameras{});
+    perform(ReconnectSubstations{});
+    perform(CheckSupport{QStringLiteral("south")});
+    perform(FocusStation{QStringLiteral("north")});
+    QCOMPARE(m_log.take(), QStringList({QStringLiteral("reconnectDisconnectCameras"),
+                                        QStringLiteral("reconnectDisconnectSubstations"),
+                                        QStringLiteral("checkSupportSystemMonitor south")}));
+    QCOMPARE(m_monitor->property("focusStationResource").toString(), QStringLiteral("north"));
+}
+
+void tst_ScenarioActor::snoozeIsRoundedUpToWholeSeconds()
+{
+    const qint64 start = VirtualClock::StartMs / 1000;
+    perform(ScenarioAction::Snooze{QStringLiteral("north/c1"), 3, 30'000});
+    perform(ScenarioAction::Snooze{QStringLiteral("south"), 4, 30'001});
+    QCOMPARE(m_log.take(), QStringList({QStringLiteral("setSnooze north/c1 %1 3").arg(start + 30),
+                                        QStringLiteral("setSnooze south %1 4").arg(start + 31)}));
+}
+
+QTEST_GUILESS_MAIN(tst_ScenarioActor)
+#include "tst_ScenarioActor.moc"

@@ -1,0 +1,155 @@
+#include "SiteFile.h"
+
+#include "InputFailure.h"
+#include "TextFile.h"
+
+#include <QTest>
+
+class tst_SiteFile : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void readsEveryKey();
+    void leavesOutWhatIsOptional();
+    void siteMayBeEmpty();
+    void wrongFilesAreRefused_data();
+    void wrongFilesAreRefused();
+};
+
+void tst_SiteFile::readsEveryKey()
+{
+    const TextFile file(R"({
+        "name": "Harbour",
+        "stations": [{
+            "id": "a", "name": "Station A", "connected": false, "supportsMonitoring": false,
+            "resources": {"cpu": 1, "memory": 2, "networks": [
+                {"interface": "eth0", "percentage": 3.5, "bandwidth": 100},
+                {"interface": "eth1", "percentage": 4}]},
+            "volumes": [{"id": "v", "name": "Volume", "connected": false}],
+            "recordingGroups": [{"id": "g", "name": "Group", "recordedDays": 5, "requiredDays": 6}],
+            "cameras": [{"id": "c", "name": "Camera", "connected": false}],
+            "stations": [{"id": "b", "name": "Station B", "cameras": [{"id": "c", "name": "D"}]}]
+        }]})");
+    Site site = readSiteFile(file.path());
+    QCOMPARE(site.name, QStringLiteral("Harbour"));
+    Station &a = *site.findStation(QStringLiteral("a"));
+    QCOMPARE(a.name, QStringLiteral("Station A"));
+    QCOMPARE(a.connected, false);
+    QCOMPARE(a.supportsMonitoring, false);
+    QCOMPARE(a.resources->cpuPercentage, 1);
+    QCOMPARE(a.resources->memoryPercentage, 2);
+    QCOMPARE(a.resources->networks.at(0).interfaceName, QStringLiteral("eth0"));
+    QCOMPARE(a.resources->networks.at(0).percentage, 3.5);
+    QCOMPARE(a.resources->networks.at(0).bandwidth, 100.0);
+    QCOMPARE(a.resources->networks.at(1).bandwidth, 1000.0);
+    QCOMPARE(a.volumes.at(0).id, QStringLiteral("v"));
+    QCOMPARE(a.volumes.at(0).name, QStringLiteral("Volume"));
+    QCOMPARE(a.volumes.at(0).connected, false);
+    QCOMPARE(a.recordingGroups.at(0).id, QStringLiteral("g"));
+    QCOMPARE(a.recordingGroups.at(0).name, QStringLiteral("Group"));
+    QCOMPARE(a.recordingGroups.at(0).recordedDays, 5);
+    QCOMPARE(a.recordingGroups.at(0).requiredDays, 6);
+    QCOMPARE(site.findCamera(QStringLiteral("a/c"))->name, QStringLiteral("Camera"));
+    QCOMPARE(site.findCamera(QStringLiteral("a/c"))->connected, false);
+    QCOMPARE(site.findStation(QStringLiteral("a/b"))->name, QStringLiteral("Station B"));
+    QCOMPARE(site.findCamera(QStringLiteral("a/b/c"))->name, QStringLiteral("D"));
+}
+
+void tst_SiteFile::leavesOutWhatIsOptional()
+{
+    const TextFile file(R"({"name": "S", "stations": [{"id": "a", "name": "A"}]})");
+    Site site = readSiteFile(file.path());
+    const Station &a = *site.findStation(QStringLiteral("a"));
+    QCOMPARE(a.connected, true);
+    QCOMPARE(a.supportsMonitoring, true);
+    QVERIFY(!a.resources);
+    QVERIFY(a.volumes.empty());
+    QVERIFY(a.recordingGroups.empty());
+    QVERIFY(a.cameras.empty());
+    QVERIFY(a.stations.empty());
+}
+
+void tst_SiteFile::siteMayBeEmpty()
+{
+    const TextFile file(R"({"name": "S", "stations": []})");
+    QCOMPARE(readSiteFile(file.path()).stationCount(), 0);
+}
+
+void tst_SiteFile::wrongFilesAreRefused_data()
+{
+    QTest::addColumn<QByteArray>("stations");
+    QTest::addColumn<QString>("message");
+    const auto row = [](const char *name, const char *stations, const char *message) {
+        QTest::newRow(name) << QByteArray(stations)
+                            << QStringLiteral("FILE: ") + QString::fromLatin1(message);
+    };
+    row("no list", R"(3)", "stations: expected a list of objects, found the number 3");
+    row("id missing", R"([{"name": "A"}])", "stations[0].id: expected a text, found nothing");
+    row("name missing", R"([{"id": "a"}])", "stations[0].name: expected a text, found nothing");
+    row("id with slash", R"([{"id": "a/b", "name": "A"}])",
+        R"(stations[0].id: expected an id without "/", found "a/b")");
+    row("id of this machine", R"([{"id": "this-machine", "name": "A"}])",
+        R"(stations[0].id: expected an id other than that of this machine, found "this-machine")");
+    row("station twice", R"([{"id": "a", "name": "A"}, {"id": "a", "name": "B"}])",
+        R"(stations[1].id: expected an id that is used once, found "a" as at stations[0].id)");
+    row("camera twice",
+        R"([{"id": "a", "name": "A", "cameras": [{"id": "c", "name": "C"},
+                                                 {"id": "c", "name": "D"}]}])",
+        "stations[0].cameras[1].id: expected an id that is used once, "
+        "found \"a/c\" as at stations[0].cameras[0].id");
+    row("camera like a sub-station",
+        R"([{"id": "a", "name": "A", "cameras": [{"id": "c", "name": "C"}],
+                                     "stations": [{"id": "c", "name": "C"}]}])",
+        "stations[0].stations[0].id: expected an id that is used once, "
+        "found \"a/c\" as at stations[0].cameras[0].id");
+    row("volume twice",
+        R"([{"id": "a", "name": "A", "volumes": [{"id": "v", "name": "V"},
+                                                 {"id": "v", "name": "W"}]}])",
+        "stations[0].volumes[1].id: expected an id that is used once, "
+        "found \"v\" as at stations[0].volumes[0].id");
+    row("group twice",
+        R"([{"id": "a", "name": "A", "recordingGroups": [
+            {"id": "g", "name": "G", "recordedDays": 1, "requiredDays": 1},
+            {"id": "g", "name": "H", "recordedDays": 1, "requiredDays": 1}]}])",
+        "stations[0].recordingGroups[1].id: expected an id that is used once, "
+        "found \"g\" as at stations[0].recordingGroups[0].id");
+    row("group without days", R"([{"id": "a", "name": "A", "recordingGroups": [
+            {"id": "g", "name": "G", "requiredDays": 1}]}])",
+        "stations[0].recordingGroups[0].recordedDays: expected a whole number from 0 to 36500, "
+        "found nothing");
+    row("percentage too great",
+        R"([{"id": "a", "name": "A", "resources": {"cpu": 101, "memory": 2}}])",
+        "stations[0].resources.cpu: expected a whole number from 0 to 100, found the number 101");
+    row("unknown key of a station", R"([{"id": "a", "name": "A", "supportMonitoring": true}])",
+        "stations[0].supportMonitoring: expected one of the keys cameras, connected, id, name, "
+        "recordingGroups, resources, stations, supportsMonitoring, volumes, "
+        "found an unknown key");
+    row("unknown key of a camera",
+        R"([{"id": "a", "name": "A", "cameras": [{"id": "c", "name": "C", "url": "x"}]}])",
+        "stations[0].cameras[0].url: expected one of the keys connected, id, name, "
+        "found an unknown key");
+    row("unknown key of a volume",
+        R"([{"id": "a", "name": "A", "volumes": [{"id": "c", "name": "C", "size": 3}]}])",
+        "stations[0].volumes[0].size: expected one of the keys connected, id, name, "
+        "found an unknown key");
+    row("unknown key of resources",
+        R"([{"id": "a", "name": "A", "resources": {"cpu": 1, "memory": 2, "disk": 3}}])",
+        "stations[0].resources.disk: expected one of the keys cpu, memory, networks, "
+        "found an unknown key");
+    row("unknown key of a network",
+        R"([{"id": "a", "name": "A", "resources": {"cpu": 1, "memory": 2, "networks": [
+            {"interface": "e", "percentage": 1, "speed": 2}]}}])",
+        "stations[0].resources.networks[0].speed: expected one of the keys bandwidth, interface, "
+        "percentage, found an unknown key");
+}
+
+void tst_SiteFile::wrongFilesAreRefused()
+{
+    QFETCH(QByteArray, stations);
+    const TextFile file(R"({"name": "S", "stations": )" + stations + "}");
+    QTEST(inputFailure(file.path(), [&file] { readSiteFile(file.path()); }), "message");
+}
+
+QTEST_GUILESS_MAIN(tst_SiteFile)
+#include "tst_SiteFile.moc"
