@@ -90,9 +90,13 @@ QModelIndex ErrorIndex::find(const QString &key) const
 
 QList<QStandardItem *> ErrorIndex::rowsOfStationsStartingWith(const QString &prefix) const
 {
+    // Every id begins with an empty prefix, a null id too, where startsWith() says otherwise.
+    const auto belongs = [&prefix](const QString &stationID) {
+        return prefix.isEmpty() || stationID.startsWith(prefix);
+    };
     QList<QStandardItem *> items;
     for (auto it = m_itemsByStation.lowerBound(prefix);
-         it != m_itemsByStation.cend() && it.key().startsWith(prefix); ++it)
+         it != m_itemsByStation.cend() && belongs(it.key()); ++it)
         items.append(it.value().values());
     return sortedByRow(items, std::greater<>());
 }
