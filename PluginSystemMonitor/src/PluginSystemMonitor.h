@@ -1,13 +1,14 @@
 #ifndef PLUGINSYSTEMMONITOR_H
 #define PLUGINSYSTEMMONITOR_H
 
+#include "ErrorIndex.h"
 #include "ErrorKinds.h"
 #include "PluginBase.h"
+#include "TopologyIndex.h"
 
 #include <QList>
 #include <QMap>
 #include <QModelIndex>
-#include <QPersistentModelIndex>
 #include <QPointer>
 #include <QSharedPointer>
 #include <QStandardItemModel>
@@ -242,8 +243,9 @@ protected:
 
     SystemErrorModel *errorModel = nullptr;     ///< owned, as a child
     QPointer<QStandardItemModel> topologyModel; ///< the topology plug-in's, not owned
+    mutable TopologyIndex topologyIndex;        ///< finds nodes of that model by id
     QSharedPointer<SystemResourceModelControl> resourceModelControl;
-    QMap<QString, QPersistentModelIndex> indexMap; ///< unique key to row
+    ErrorIndex indexMap; ///< finds rows by unique key
     QString focusStationId;
     QList<QVariant> stationErrors;  ///< value of the property stationErrorList
     QStringList snoozedDeviceList;  ///< ids of nodes whose disconnections are not listed
@@ -266,11 +268,15 @@ private:
     /// Answers checkSupportSystemMonitor() and frees the station id that the context is.
     void handleSupportResponse(void *context, const QString &resultCode);
     void handleSetSnoozeResponse(const QVariant &data, bool success);
+    /// The text by which the walk names a node that raises an error.
+    QString nameInWalk(const QModelIndex &node, int type, const QString &nodeID) const;
     void reloadStorageUsage(const QString &stationID);
 
     /// Completes a record with name and time and lists it.
     void appendError(QMap<QString, QVariant> record);
     QModelIndexList errorsOfType(ErrorType type) const;
+    /// Removes rows of the list, in this order.
+    void removeRows(const QList<QStandardItem *> &items);
     QString storageLabel(const QString &stationID, const QString &groupName) const;
 
     void monitorStationStatus(const QString &stationID, bool connected);

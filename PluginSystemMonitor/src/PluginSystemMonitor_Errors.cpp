@@ -25,10 +25,14 @@ QString getParentStationID(const QString &deviceID)
 
 QString PluginSystemMonitor::uniqueId(ErrorType type, const QString &id, const QString &subId) const
 {
-    // One substitution after the other: keys of ids with a "%" marker must stay what they are.
+    QString key = QString::number(type) + QLatin1Char('_') + id;
     if (subId.isEmpty())
-        return QStringLiteral("%1_%2").arg(static_cast<int>(type)).arg(id);
-    return QStringLiteral("%1_%2_%3").arg(static_cast<int>(type)).arg(id).arg(subId);
+        return key;
+    // A marker in the id is open to the substitution of the sub-id: such keys must stay what they
+    // are.
+    if (id.contains(QLatin1Char('%')))
+        return (key + QStringLiteral("_%3")).arg(subId);
+    return key + QLatin1Char('_') + subId;
 }
 
 QString PluginSystemMonitor::getErrorName(ErrorType type) const
@@ -70,14 +74,8 @@ QString PluginSystemMonitor::getTriggerDeviceName(ErrorCategory category,
 
 QString PluginSystemMonitor::findDeviceName(const QString &deviceID) const
 {
-    if (!topologyModel)
-        return QString();
-    const QModelIndexList hits =
-        topologyModel->match(topologyModel->index(0, 0), Topology::IdRole, deviceID, 1,
-                             Qt::MatchExactly | Qt::MatchRecursive);
-    if (hits.isEmpty())
-        return QString();
-    return hits.first()
+    topologyIndex.setModel(topologyModel);
+    return topologyIndex.find(deviceID)
         .data(Topology::PropertiesRole)
         .toMap()
         .value(QStringLiteral("nameRole"))
@@ -100,6 +98,7 @@ bool PluginSystemMonitor::createErrorListModel()
     if (!errorModel)
         return false;
 
+    indexMap.setModel(errorModel);
     const auto scheduleRecount = [this] { stationErrorNumberTimer.start(RecountDelayMs); };
     connect(errorModel, &QAbstractItemModel::rowsInserted, this, scheduleRecount);
     connect(errorModel, &QAbstractItemModel::rowsRemoved, this, scheduleRecount);
@@ -121,7 +120,7 @@ QObject *PluginSystemMonitor::getSystemErrorSortFilterModel(QObject *parent)
 void PluginSystemMonitor::appendSystemErrorModel(const QString &uniqueId, QStandardItem *item)
 {
     errorModel->appendRow(item);
-    indexMap.insert(uniqueId, errorModel->index(errorModel->rowCount() - 1, 0));
+    indexMap.insert(uniqueId, item);
 }
 
 void PluginSystemMonitor::RemoveSystemErrorModelRow(const QModelIndex &index)
@@ -154,7 +153,7 @@ void PluginSystemMonitor::clearSystemErrorModel()
 
 QModelIndex PluginSystemMonitor::existError(ErrorType type, const QString &id, const QString &subId)
 {
-    return indexMap.value(uniqueId(type, id, subId));
+    return indexMap.find(uniqueId(type, id, subId));
 }
 
 void PluginSystemMonitor::addSystemError(const QString &stationID, ErrorType type,
@@ -225,8 +224,7 @@ void PluginSystemMonitor::appendError(QMap<QString, QVariant> record)
 
 void PluginSystemMonitor::removeCameraError(const QString &nodeID)
 {
-    removeErrorFromModel(nodeID, SystemErrorModel::DeviceIDRole,
-                         Qt::MatchFixedString | Qt::MatchCaseSensitive | Qt::MatchRecursive);
+    removeRows(indexMap.rowsOfDevice(nodeID));
 }
 
 void PluginSystemMonitor::removeStationError(const QString &nodeID)
@@ -237,9 +235,14 @@ void PluginSystemMonitor::removeStationError(const QString &nodeID)
 void PluginSystemMonitor::removeStationFromErrorModel(const QString &stationID)
 {
     // A prefix, not equality: the errors of the station's cameras and sub-stations go with it.
-    for (int row = errorModel->rowCount() - 1; row >= 0; --row) {
-        const QModelIndex index = errorModel->index(row, 0);
-        if (index.data(SystemErrorModel::StationIDRole).toString().startsWith(stationID))
-            RemoveSystemErrorModelRow(index);
+    removeRows(indexMap.rowsOfStationsStartingWith(stationID));
+}
+
+void PluginSystemMonitor::removeRows(const QList<QStandardItem *> &items)
+{
+    for (QStandardItem *item : items) {
+        // Whoever watches the list may have removed some of them meanwhile.
+        if (indexMap.contains(item))
+            RemoveSystemErrorModelRow(errorModel->indexFromItem(item));
     }
 }

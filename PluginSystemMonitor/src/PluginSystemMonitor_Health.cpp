@@ -123,12 +123,8 @@ void PluginSystemMonitor::recursiveAppendStatusError(const QModelIndex &parent)
         const int type = node.data(Topology::NodeTypeRole).toInt();
         const bool connected = node.data(Topology::ConnectedRole).toBool();
         const QString nodeID = node.data(Topology::NodeIdRole).toString();
-        const QString name = node.data(Topology::DisplayNameRole).toString();
-
-        const QString triggerDeviceName =
-            isCameraInTopologyModel(type)
-                ? findDeviceName(getParentStationID(nodeID)) + QStringLiteral(" - ") + name
-                : name;
+        // The name is for an error to be raised; a connected node raises none.
+        const QString triggerDeviceName = connected ? QString() : nameInWalk(node, type, nodeID);
         monitorNodeStatusForInit(type, nodeID, connected, triggerDeviceName);
 
         if (isStationInTopologyModel(type)) {
@@ -136,6 +132,15 @@ void PluginSystemMonitor::recursiveAppendStatusError(const QModelIndex &parent)
             recursiveAppendStatusError(node);
         }
     }
+}
+
+QString PluginSystemMonitor::nameInWalk(const QModelIndex &node, int type,
+                                        const QString &nodeID) const
+{
+    const QString name = node.data(Topology::DisplayNameRole).toString();
+    if (!isCameraInTopologyModel(type))
+        return name;
+    return findDeviceName(getParentStationID(nodeID)) + QStringLiteral(" - ") + name;
 }
 
 void PluginSystemMonitor::reloadStorageUsage(const QString &stationID)
@@ -155,15 +160,11 @@ void PluginSystemMonitor::monitorVolumeStatus(const QString &nodeID)
 
 void PluginSystemMonitor::removeVolumeError(const QString &nodeID)
 {
-    // The stations are read before any row goes, while every hit still is the row that was found.
-    QList<QPersistentModelIndex> rows;
-    const QModelIndexList hits = errorsOfType(VolumeDisconnected);
-    for (const QModelIndex &hit : hits) {
-        if (hit.data(SystemErrorModel::StationIDRole).toString() == nodeID)
-            rows.append(hit);
-    }
-    for (const QPersistentModelIndex &row : std::as_const(rows))
-        RemoveSystemErrorModelRow(row);
+    QList<QStandardItem *> volumeErrors = indexMap.rowsOfStation(nodeID);
+    volumeErrors.removeIf([](const QStandardItem *error) {
+        return error->data(SystemErrorModel::ErrorTypeRole) != QVariant(VolumeDisconnected);
+    });
+    removeRows(volumeErrors);
 }
 
 void PluginSystemMonitor::monitorInsufficientRecordingDays(const QString &stationID,
@@ -225,10 +226,7 @@ void PluginSystemMonitor::monitorUsage(ErrorType type, const QString &stationID,
 
 void PluginSystemMonitor::updateStationErrorNumber()
 {
-    QMap<QString, int> counts;
-    for (int row = 0; row < errorModel->rowCount(); ++row)
-        ++counts[errorModel->index(row, 0).data(SystemErrorModel::StationIDRole).toString()];
-
+    const QMap<QString, int> counts = indexMap.countsByStation();
     stationErrors.clear();
     for (auto it = counts.cbegin(); it != counts.cend(); ++it) {
         stationErrors.append(QVariantMap{

@@ -2,8 +2,6 @@
 
 #include "SystemErrorModel.h"
 
-#include <QRegularExpression>
-
 SystemErrorSortFilterModel::SystemErrorSortFilterModel(QObject *parent)
     : QSortFilterProxyModel(parent)
 {
@@ -36,19 +34,27 @@ bool SystemErrorSortFilterModel::filterAcceptsRow(int sourceRow,
 
 bool SystemErrorSortFilterModel::matchesText(const QModelIndex &error) const
 {
-    const QString pattern = filterRegularExpression().pattern();
-    if (pattern.isEmpty())
+    const QRegularExpression &expression = textExpression();
+    if (expression.pattern().isEmpty())
         return true;
-
-    // Only the pattern counts; whichever options came with it are dropped.
-    const QRegularExpression expression(pattern, filterCaseSensitivity() == Qt::CaseInsensitive
-                                                     ? QRegularExpression::CaseInsensitiveOption
-                                                     : QRegularExpression::NoPatternOption);
     // Matching against an invalid expression would warn, once for every row.
     if (!expression.isValid())
         return false;
     return error.data(SystemErrorModel::ErrorNameRole).toString().contains(expression)
            || error.data(SystemErrorModel::TriggerDeviceNameRole).toString().contains(expression);
+}
+
+/// The expression that the text filter asks for: its pattern and case sensitivity, with whichever
+/// options came with it dropped. Compiled when it changes, not for every row.
+const QRegularExpression &SystemErrorSortFilterModel::textExpression() const
+{
+    const QString pattern = filterRegularExpression().pattern();
+    const QRegularExpression::PatternOptions options =
+        filterCaseSensitivity() == Qt::CaseInsensitive ? QRegularExpression::CaseInsensitiveOption
+                                                       : QRegularExpression::NoPatternOption;
+    if (compiledExpression.pattern() != pattern || compiledExpression.patternOptions() != options)
+        compiledExpression = QRegularExpression(pattern, options);
+    return compiledExpression;
 }
 
 bool SystemErrorSortFilterModel::lessThan(const QModelIndex &left, const QModelIndex &right) const

@@ -3,6 +3,7 @@
 
 #include "ErrorKinds.h"
 
+#include <QRegularExpression>
 #include <QSortFilterProxyModel>
 
 /// A view's own excerpt of the error list, newest error first.
@@ -29,9 +30,11 @@ protected:
 
 private:
     bool matchesText(const QModelIndex &error) const;
+    const QRegularExpression &textExpression() const;
 
     int categoryMask = SystemCategory | CameraCategory;
     QString filterStationID;
+    mutable QRegularExpression compiledExpression; ///< see textExpression()
 };
 
 #endif

@@ -1,0 +1,176 @@
+#include "TopologyIndex.h"
+
+#include "TopologyRoles.h"
+
+namespace {
+
+bool isText(const QVariant &id)
+{
+    // The search compares ids as variants: a number never equals a text.
+    return id.typeId() == QMetaType::QString;
+}
+
+/// The search descends through the first column alone.
+bool isSearched(QModelIndex parent)
+{
+    for (; parent.isValid(); parent = parent.parent()) {
+        if (parent.column() != 0)
+            return false;
+    }
+    return true;
+}
+
+} // namespace
+
+void TopologyIndex::setModel(QStandardItemModel *model)
+{
+    if (model == m_model)
+        return;
+    if (m_model)
+        m_model->disconnect(this);
+    m_model = model;
+    m_removals = 0;
+    discard();
+    if (!model)
+        return;
+
+    using Model = QAbstractItemModel;
+    connect(model, &Model::rowsInserted, this, &TopologyIndex::nodesInserted);
+    connect(model, &Model::rowsAboutToBeRemoved, this, &TopologyIndex::nodesAboutToBeRemoved);
+    connect(model, &Model::rowsRemoved, this, &TopologyIndex::endRemoval);
+    connect(model, &Model::dataChanged, this,
+            [this](const QModelIndex &from, const QModelIndex &to, const QList<int> &roles) {
+                if (roles.isEmpty() || roles.contains(Topology::IdRole))
+                    nodesChanged(from, to);
+            });
+
+    // The order of the nodes, or all of them, may be others after these.
+    connect(model, &Model::modelAboutToBeReset, this, &TopologyIndex::beginRemoval);
+    connect(model, &Model::modelAboutToBeReset, this, &TopologyIndex::discard);
+    connect(model, &Model::modelReset, this, &TopologyIndex::endRemoval);
+    connect(model, &Model::columnsAboutToBeRemoved, this, &TopologyIndex::beginRemoval);
+    connect(model, &Model::columnsAboutToBeRemoved, this, &TopologyIndex::discard);
+    connect(model, &Model::columnsRemoved, this, &TopologyIndex::endRemoval);
+    connect(model, &Model::columnsInserted, this, &TopologyIndex::discard);
+    connect(model, &Model::columnsMoved, this, &TopologyIndex::discard);
+    connect(model, &Model::rowsMoved, this, &TopologyIndex::discard);
+    connect(model, &Model::layoutAboutToBeChanged, this, &TopologyIndex::discard);
+    connect(model, &Model::layoutChanged, this, &TopologyIndex::discard);
+    connect(model, &QObject::destroyed, this, &TopologyIndex::discard);
+}
+
+QModelIndex TopologyIndex::find(const QString &id)
+{
+    if (!m_model)
+        return QModelIndex();
+    // Who asks now may still find what is about to go, and the table must not remember it.
+    if (m_removals > 0)
+        return searchModel(id);
+    if (!m_isBuilt)
+        build();
+    const auto it = m_nodes.constFind(id);
+    return it == m_nodes.cend() ? QModelIndex() : m_model->indexFromItem(it->item);
+}
+
+QModelIndex TopologyIndex::searchModel(const QString &id) const
+{
+    return m_model
+        ->match(m_model->index(0, 0), Topology::IdRole, id, 1,
+                Qt::MatchExactly | Qt::MatchRecursive)
+        .value(0);
+}
+
+void TopologyIndex::build()
+{
+    m_isBuilt = true;
+    addNodes(QModelIndex(), 0, m_model->rowCount() - 1);
+}
+
+void TopologyIndex::discard()
+{
+    m_isBuilt = false;
+    m_nodes.clear();
+}
+
+void TopologyIndex::beginRemoval()
+{
+    ++m_removals;
+}
+
+void TopologyIndex::endRemoval()
+{
+    m_removals = qMax(0, m_removals - 1);
+}
+
+/// Adds the nodes and what is below them, in the order of the search. Returns whether every id was
+/// new.
+bool TopologyIndex::addNodes(const QModelIndex &parent, int first, int last)
+{
+    bool allNew = true;
+    for (int row = first; row <= last; ++row) {
+        const QModelIndex index = m_model->index(row, 0, parent);
+        if (!index.isValid())
+            continue;
+        const QVariant id = index.data(Topology::IdRole);
+        if (isText(id)) {
+            const auto it = m_nodes.find(id.toString());
+            if (it == m_nodes.end()) {
+                m_nodes.insert(id.toString(), {m_model->itemFromIndex(index), 1});
+            } else {
+                ++it->count;
+                allNew = false;
+            }
+        }
+        allNew &= addNodes(index, 0, m_model->rowCount(index) - 1);
+    }
+    return allNew;
+}
+
+/// Removes the nodes and what is below them. Returns whether no id stays with another node.
+bool TopologyIndex::removeNodes(const QModelIndex &parent, int first, int last)
+{
+    bool allGone = true;
+    for (int row = first; row <= last; ++row) {
+        const QModelIndex index = m_model->index(row, 0, parent);
+        if (!index.isValid())
+            continue;
+        const QVariant id = index.data(Topology::IdRole);
+        if (isText(id)) {
+            const auto it = m_nodes.constFind(id.toString());
+            if (it == m_nodes.cend() || it->count > 1)
+                allGone = false;
+            else
+                m_nodes.erase(it);
+        }
+        allGone &= removeNodes(index, 0, m_model->rowCount(index) - 1);
+    }
+    return allGone;
+}
+
+void TopologyIndex::nodesInserted(const QModelIndex &parent, int first, int last)
+{
+    if (m_isBuilt && isSearched(parent) && !addNodes(parent, first, last))
+        discard();
+}
+
+void TopologyIndex::nodesAboutToBeRemoved(const QModelIndex &parent, int first, int last)
+{
+    beginRemoval();
+    if (m_isBuilt && isSearched(parent) && !removeNodes(parent, first, last))
+        discard();
+}
+
+void TopologyIndex::nodesChanged(const QModelIndex &from, const QModelIndex &to)
+{
+    if (!m_isBuilt || from.column() != 0 || !isSearched(from.parent()))
+        return;
+    for (int row = from.row(); row <= to.row(); ++row) {
+        const QModelIndex index = from.siblingAtRow(row);
+        const QVariant id = index.data(Topology::IdRole);
+        const auto it = isText(id) ? m_nodes.constFind(id.toString()) : m_nodes.cend();
+        if (it == m_nodes.cend() || it->item != m_model->itemFromIndex(index)) {
+            discard();
+            return;
+        }
+    }
+}
