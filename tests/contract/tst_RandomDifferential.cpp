@@ -27,7 +27,7 @@ private Q_SLOTS:
 
 namespace {
 
-constexpr int DefaultSeeds = 100;
+constexpr int DefaultSeeds = 60;
 constexpr int Steps = 400;
 
 struct Moment
