@@ -191,19 +191,25 @@ protected:
     QString getTriggerDeviceName(ErrorCategory category, const QString &deviceID) const;
     /// The name that the topology model knows a node by; empty when it knows none.
     QString findDeviceName(const QString &deviceID) const;
+    /// Whether the topology model's node type is the one of cameras.
     bool isCameraInTopologyModel(int nodeType) const;
+    /// Whether the topology model's node type is the one of stations.
     bool isStationInTopologyModel(int nodeType) const;
 
     // The error list. The operations need the model, that is a successful Init().
 
+    /// Creates the model, and has its changes recounted after a while. False, and no model, when
+    /// memory is short.
     bool createErrorListModel();
     /// Appends a row, whose item the model takes over, and files it under its key.
     void appendSystemErrorModel(const QString &uniqueId, QStandardItem *item);
     /// The only way in which rows leave the list: keeps the index in step.
     void RemoveSystemErrorModelRow(const QModelIndex &index);
+    /// The same under a second name.
     void removeErrorFromModel(const QModelIndex &index);
     /// Removes every row whose data at @p role matches @p value.
     void removeErrorFromModel(const QString &value, int role, Qt::MatchFlags flags);
+    /// Removes every row, from the last to the first.
     void clearSystemErrorModel();
 
     // Raising and clearing.
@@ -221,6 +227,7 @@ protected:
     /// Raises an error of a recording group of a station.
     void addStorageError(const QString &stationID, ErrorType type, const QString &groupName,
                          const QString &groupID);
+    /// Does the work of removeStationError().
     void removeStationFromErrorModel(const QString &stationID);
 
     /// Reconciles the children of a node of the topology model, and those of stations below it.
@@ -228,10 +235,15 @@ protected:
 
     // Server events.
 
+    /// A station reported its usage: applies the threshold rules, and shows it when in focus.
     void handleSystemResChgEvent(const QVariant &data, const QString &stationId);
+    /// A server is near its capacity.
     void handleServerReachingLimitedEvent(QVariant data);
+    /// A node was snoozed: its error leaves the list and is kept out of it.
     void handleSnoozeError(const QVariant &data);
+    /// A snooze ended while the node was still failing: its error is listed again.
     void snoozeExpiredAndShowError(const QVariant &data);
+    /// A snooze was removed: the node's next disconnection is listed.
     void deleteSnooze(const QString &nodeID);
 
     // The operational log.

@@ -21,6 +21,9 @@ class tst_PluginSystemMonitor_Errors : public QObject
 private Q_SLOTS:
     void init();
 
+    void errorTypeHasItsNumber_data();
+    void errorTypeHasItsNumber();
+    void errorCategoriesAreSingleBits();
     void keyIsMadeOfTypeIdAndSubId_data();
     void keyIsMadeOfTypeIdAndSubId();
     void errorNameOfAType_data();
@@ -138,6 +141,33 @@ void tst_PluginSystemMonitor_Errors::init()
 }
 
 // Identity and names
+
+void tst_PluginSystemMonitor_Errors::errorTypeHasItsNumber_data()
+{
+    QTest::addColumn<int>("type");
+    QTest::addColumn<int>("number");
+    QTest::newRow("CPU") << int(HighCpuUsage) << 0;
+    QTest::newRow("memory") << int(HighMemoryUsage) << 1;
+    QTest::newRow("network") << int(HighNetworkUsage) << 2;
+    QTest::newRow("camera") << int(CameraDisconnected) << 3;
+    QTest::newRow("station") << int(StationDisconnected) << 4;
+    QTest::newRow("volume") << int(VolumeDisconnected) << 5;
+    QTest::newRow("reserved") << int(Reserved) << 6;
+    QTest::newRow("recording days") << int(InsufficientRecordingDays) << 7;
+}
+
+void tst_PluginSystemMonitor_Errors::errorTypeHasItsNumber()
+{
+    QFETCH(const int, type);
+    QFETCH(const int, number);
+    QCOMPARE(type, number);
+}
+
+void tst_PluginSystemMonitor_Errors::errorCategoriesAreSingleBits()
+{
+    QCOMPARE(int(SystemCategory), 1);
+    QCOMPARE(int(CameraCategory), 2);
+}
 
 void tst_PluginSystemMonitor_Errors::keyIsMadeOfTypeIdAndSubId_data()
 {
@@ -496,10 +526,10 @@ void tst_PluginSystemMonitor_Errors::errorRemovedBehindThePluginIsNotFound()
 void tst_PluginSystemMonitor_Errors::clearingRemovesFromTheEnd()
 {
     HostedPlugin hosted;
-    addVolumeErrors(hosted, {u"st1"_s, u"st2"_s, u"st1"_s});
+    addVolumeErrors(hosted, {u"st1"_s, u"st2"_s, u"st3"_s, u"st1"_s});
     const LeavingKeys leaving(hosted);
     hosted.plugin.clearSystemErrorModel();
-    QCOMPARE(leaving.keys, QStringList({u"5_st1"_s, u"5_st2"_s, u"5_st1"_s}));
+    QCOMPARE(leaving.keys, QStringList({u"5_st1"_s, u"5_st3"_s, u"5_st2"_s, u"5_st1"_s}));
     QCOMPARE(hosted.errorKeys(), QStringList());
     QVERIFY(!hosted.plugin.lists(VolumeDisconnected, u"st1"_s));
     QVERIFY(!hosted.plugin.lists(VolumeDisconnected, u"st2"_s));

@@ -1,7 +1,5 @@
 #include "SystemErrorModel.h"
 
-#include "ErrorKinds.h"
-
 #include <QAbstractItemModelTester>
 #include <QRegularExpression>
 #include <QTest>
@@ -21,9 +19,6 @@ private Q_SLOTS:
     void modelPassesItsParentOn();
     void modelAddsNoMethodsAndNoProperties();
     void rowsKeepTheOrderOfArrival();
-    void errorTypeHasItsNumber_data();
-    void errorTypeHasItsNumber();
-    void errorCategoriesAreSingleBits();
 };
 
 void tst_SystemErrorModel::init()
@@ -104,33 +99,6 @@ void tst_SystemErrorModel::rowsKeepTheOrderOfArrival()
     QCOMPARE(model.columnCount(), 1);
     QCOMPARE(model.index(0, 0).data(SystemErrorModel::UniqueIDRole).toString(), u"b"_s);
     QCOMPARE(model.index(1, 0).data(SystemErrorModel::UniqueIDRole).toString(), u"a"_s);
-}
-
-void tst_SystemErrorModel::errorTypeHasItsNumber_data()
-{
-    QTest::addColumn<int>("type");
-    QTest::addColumn<int>("number");
-    QTest::newRow("CPU") << int(HighCpuUsage) << 0;
-    QTest::newRow("memory") << int(HighMemoryUsage) << 1;
-    QTest::newRow("network") << int(HighNetworkUsage) << 2;
-    QTest::newRow("camera") << int(CameraDisconnected) << 3;
-    QTest::newRow("station") << int(StationDisconnected) << 4;
-    QTest::newRow("volume") << int(VolumeDisconnected) << 5;
-    QTest::newRow("reserved") << int(Reserved) << 6;
-    QTest::newRow("recording days") << int(InsufficientRecordingDays) << 7;
-}
-
-void tst_SystemErrorModel::errorTypeHasItsNumber()
-{
-    QFETCH(const int, type);
-    QFETCH(const int, number);
-    QCOMPARE(type, number);
-}
-
-void tst_SystemErrorModel::errorCategoriesAreSingleBits()
-{
-    QCOMPARE(int(SystemCategory), 1);
-    QCOMPARE(int(CameraCategory), 2);
 }
 
 QTEST_GUILESS_MAIN(tst_SystemErrorModel)
