@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE">
 <context>
+    <name>Catalogues</name>
+    <message>
+        <source>--language: expected en or de, found &quot;%1&quot;.</source>
+        <translation>--language: erwartet: en oder de, gefunden: „%1“.</translation>
+    </message>
+</context>
+<context>
     <name>ConsoleReport</name>
     <message>
         <source>unknown</source>
@@ -431,17 +438,14 @@ Rückgabewerte: 0 alles ging gut, 1 die Arbeit war nicht möglich, 2 eine Option
     </message>
 </context>
 <context>
-    <name>Catalogues</name>
-    <message>
-        <source>--language: expected en or de, found &quot;%1&quot;.</source>
-        <translation>--language: erwartet: en oder de, gefunden: „%1“.</translation>
-    </message>
-</context>
-<context>
     <name>WindowRun</name>
     <message>
         <source>%1 cannot be written</source>
         <translation>%1 kann nicht geschrieben werden</translation>
+    </message>
+    <message>
+        <source>Picture saved as %1</source>
+        <translation>Bild gespeichert als %1</translation>
     </message>
 </context>
 <context>

@@ -34,8 +34,10 @@ void WindowRun::takeScreenshot()
 {
     if (!m_screenshot || m_screenshot->isTaken())
         return;
-    if (!m_screenshot->take()) {
-        m_hasFailed = true;
+    if (m_screenshot->take()) {
+        qInfo().noquote() << tr("Picture saved as %1").arg(m_screenshot->fileName());
+    } else {
         qWarning().noquote() << tr("%1 cannot be written").arg(m_screenshot->fileName());
+        m_hasFailed = true;
     }
 }

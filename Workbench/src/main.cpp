@@ -77,6 +77,14 @@ QString logFile(const Options &options)
            + QStringLiteral("/operational-log.sqlite");
 }
 
+int playHeadless(Workbench &workbench, const Clock &clock, Screenshot *screenshot)
+{
+    QTextStream out(stdout);
+    ConsoleReport report(out, clock);
+    report.follow(workbench);
+    return HeadlessRun(workbench, report, screenshot).exec();
+}
+
 int play(const Options &options, Catalogues &catalogues)
 {
     const bool isHeadless = runsHeadless(options);
@@ -89,31 +97,22 @@ int play(const Options &options, Catalogues &catalogues)
     catalogues.installNew();
     ScaledClock clock(options.speed);
     OperationalLogStore log(logFile(options));
+    const bool wantsPicture = !options.screenshotFile.isEmpty();
     std::unique_ptr<QQmlEngine> engine;
-    if (!isHeadless || !options.screenshotFile.isEmpty())
+    if (!isHeadless || wantsPicture)
         engine = std::make_unique<QQmlEngine>();
     Workbench workbench(host, engine ? engine->rootContext() : nullptr, site, scenario, log, clock);
+    if (!engine)
+        return playHeadless(workbench, clock, nullptr);
 
-    std::unique_ptr<DashboardWindow> window;
-    std::unique_ptr<DashboardFeed> feed;
-    std::unique_ptr<Screenshot> screenshot;
-    if (engine) {
-        window =
-            std::make_unique<DashboardWindow>(*engine, workbench.surface().plugin(), site.name);
-        feed = std::make_unique<DashboardFeed>(workbench.link(), *window);
-    }
-    if (!options.screenshotFile.isEmpty())
-        screenshot = std::make_unique<Screenshot>(*window, options.screenshotFile);
-
+    DashboardWindow window(*engine, workbench.surface().plugin(), site.name);
+    const DashboardFeed feed(workbench.link(), window);
+    Screenshot picture(window, options.screenshotFile);
+    Screenshot *const screenshot = wantsPicture ? &picture : nullptr;
     if (!isHeadless)
-        return WindowRun(workbench, *window, screenshot.get(), options.isLooped).exec();
-
-    if (window)
-        window->show();
-    QTextStream out(stdout);
-    ConsoleReport report(out, clock);
-    report.follow(workbench);
-    return HeadlessRun(workbench, report, screenshot.get()).exec();
+        return WindowRun(workbench, window, screenshot, options.isLooped).exec();
+    window.show();
+    return playHeadless(workbench, clock, screenshot);
 }
 
 int run(int argc, char **argv)

@@ -83,7 +83,7 @@ private Q_SLOTS:
 
 void tst_WorkbenchProgram::everythingScenarioShowsEveryKindOfHappening()
 {
-    const Outcome outcome = run(options("--headless --scenario everything --speed 10"));
+    const Outcome outcome = run(options("--headless --scenario everything --speed 6"));
     QCOMPARE(outcome.exitCode, 0);
     QCOMPARE(outcome.errors, QString());
 
