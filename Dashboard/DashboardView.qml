@@ -17,6 +17,9 @@ FocusScope {
     /// List of {stationID, name, parentID, connected}; parentID is empty for a top-level station.
     property var stations: []
 
+    readonly property var knownSince: connectionSince && !isNaN(connectionSince.getTime())
+                                      ? connectionSince : undefined
+
     // What it offers is known only at run time.
     readonly property var surface: plugin
 
@@ -48,7 +51,7 @@ FocusScope {
         width: parent.width
         siteName: root.siteName
         serverConnected: root.serverConnected
-        connectionSince: root.connectionSince
+        connectionSince: root.knownSince
     }
 
     CapacityBanner {
@@ -69,7 +72,7 @@ FocusScope {
         surface: root.surface
         directory: directory
         serverConnected: root.serverConnected
-        connectionSince: root.connectionSince
+        connectionSince: root.knownSince
         onNoticed: (status, text) => notice.show(status, text)
     }
 

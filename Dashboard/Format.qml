@@ -47,20 +47,21 @@ QtObject {
 
     /// A percentage, rounded to a whole number.
     function percent(value: real): string {
-        return qsTr("%1 %").arg(Math.round(value));
+        return qsTr("%1%").arg(Math.round(value));
     }
 
-    /// A bandwidth given in bits per second.
-    function bandwidth(bitsPerSecond: real): string {
-        const units = [qsTr("bit/s"), qsTr("kbit/s"), qsTr("Mbit/s"), qsTr("Gbit/s")];
-        let amount = Math.max(0, bitsPerSecond);
-        let unit = 0;
-        while (amount >= 1000 && unit < units.length - 1) {
-            amount /= 1000;
-            ++unit;
-        }
-        const decimals = unit === 0 || amount >= 100 ? 0 : 1;
-        return qsTr("%1 %2", "amount and unit").arg(Number(amount).toLocaleString(Qt.locale(), "f", decimals))
-                                               .arg(units[unit]);
+    /// A bandwidth given in megabits per second.
+    function bandwidth(megabits: real): string {
+        if (megabits >= 1000)
+            return qsTr("%1 Gbit/s").arg(shortNumber(megabits / 1000));
+        if (megabits >= 1)
+            return qsTr("%1 Mbit/s").arg(shortNumber(megabits));
+        return qsTr("%1 kbit/s").arg(shortNumber(megabits * 1000));
+    }
+
+    /// A number in the local notation, with one decimal where that tells more.
+    function shortNumber(value: real): string {
+        const rounded = Math.round(value * 10) / 10;
+        return rounded.toLocaleString(Qt.locale(), "f", rounded === Math.round(rounded) ? 0 : 1);
     }
 }

@@ -44,7 +44,8 @@ Item {
         return over ? qsTr("over threshold %1").arg(limit) : qsTr("threshold %1").arg(limit);
     }
     readonly property string bandwidthText: typeRole === networkType && bandwidthRole > 0
-                                            ? Format.bandwidth(bandwidthRole) : ""
+                                            ? qsTr("bandwidth %1").arg(Format.bandwidth(bandwidthRole))
+                                            : ""
     readonly property string detail: bandwidthText === "" ? limitText
                                                           : bandwidthText + " · " + limitText
 
@@ -104,6 +105,8 @@ Item {
 
         PlainLabel {
             Layout.fillWidth: true
+            wrapMode: Text.Wrap
+            maximumLineCount: 2
             text: card.detail
             font.pixelSize: Theme.smallFont
             font.weight: card.over ? Font.DemiBold : Font.Normal

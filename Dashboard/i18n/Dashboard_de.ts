@@ -391,29 +391,20 @@
         <translation>%1 d %2 h</translation>
     </message>
     <message>
-        <source>%1 %</source>
-        <translation>%1 %</translation>
+        <source>%1 Gbit/s</source>
+        <translation>%1 Gbit/s</translation>
     </message>
     <message>
-        <source>bit/s</source>
-        <translation>bit/s</translation>
+        <source>%1 Mbit/s</source>
+        <translation>%1 Mbit/s</translation>
     </message>
     <message>
-        <source>kbit/s</source>
-        <translation>kbit/s</translation>
+        <source>%1 kbit/s</source>
+        <translation>%1 kbit/s</translation>
     </message>
     <message>
-        <source>Mbit/s</source>
-        <translation>Mbit/s</translation>
-    </message>
-    <message>
-        <source>Gbit/s</source>
-        <translation>Gbit/s</translation>
-    </message>
-    <message>
-        <source>%1 %2</source>
-        <comment>amount and unit</comment>
-        <translation>%1 %2</translation>
+        <source>%1%</source>
+        <translation>%1&#xa0;%</translation>
     </message>
 </context>
 <context>
@@ -578,7 +569,7 @@
     </message>
     <message>
         <source>no monitoring</source>
-        <translation>nicht überwacht</translation>
+        <translation>unüberwacht</translation>
     </message>
     <message numerus="yes">
         <source>%1, %2, %n error(s)</source>
@@ -622,6 +613,10 @@
     <message>
         <source>over threshold %1</source>
         <translation>über Schwellwert %1</translation>
+    </message>
+    <message>
+        <source>bandwidth %1</source>
+        <translation>Bandbreite %1</translation>
     </message>
 </context>
 </TS>

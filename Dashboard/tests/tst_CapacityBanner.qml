@@ -36,7 +36,7 @@ Item {
         function test_showsServerAndPercentage() {
             prepare();
             plugin.notifyServerReachingLimited("Main", 93.4);
-            compare(texts(banner), ["Main has reached 93 % of its capacity"]);
+            compare(texts(banner), ["Main has reached 93% of its capacity"]);
             tryVerify(() => banner.height > 0);
         }
 
@@ -45,8 +45,8 @@ Item {
             plugin.notifyServerReachingLimited("Main", 93);
             plugin.notifyServerReachingLimited("Other", 91);
             plugin.notifyServerReachingLimited("Main", 95);
-            compare(texts(banner), ["Main has reached 95 % of its capacity",
-                                    "Other has reached 91 % of its capacity"]);
+            compare(texts(banner), ["Main has reached 95% of its capacity",
+                                    "Other has reached 91% of its capacity"]);
         }
 
         function test_dismissedWarningComesBackWhenTheServerFillsUpFurther() {
@@ -57,7 +57,7 @@ Item {
             plugin.notifyServerReachingLimited("Main", 93.2);
             compare(texts(banner), []);
             plugin.notifyServerReachingLimited("Main", 94);
-            compare(texts(banner), ["Main has reached 94 % of its capacity"]);
+            compare(texts(banner), ["Main has reached 94% of its capacity"]);
         }
 
         function test_dismissedByKeyboard() {
@@ -70,10 +70,10 @@ Item {
 
         function test_namesAreTakenLiterally_data() {
             return [
-                { "tag": "nameless", "server": "", "text": "A server has reached 93 % of its capacity" },
-                { "tag": "marker", "server": "50%2", "text": "50%2 has reached 93 % of its capacity" },
+                { "tag": "nameless", "server": "", "text": "A server has reached 93% of its capacity" },
+                { "tag": "marker", "server": "50%2", "text": "50%2 has reached 93% of its capacity" },
                 { "tag": "markup", "server": "<b>x</b>",
-                  "text": "<b>x</b> has reached 93 % of its capacity" }
+                  "text": "<b>x</b> has reached 93% of its capacity" }
             ];
         }
 

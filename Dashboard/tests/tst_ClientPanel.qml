@@ -46,7 +46,7 @@ Item {
             prepare();
             plugin.clientResourceChanged(10, 20);
             plugin.clientResourceChanged(57, 42);
-            compare(values(), ["57 %", "42 %"]);
+            compare(values(), ["57%", "42%"]);
             compare(panel.history.cpu, [10, 57]);
         }
 
@@ -54,11 +54,11 @@ Item {
             prepare();
             plugin.clientResourceChanged(57, 42);
             plugin.clientResourceChanged(-100, 43);
-            compare(values(), ["unknown", "43 %"]);
+            compare(values(), ["unknown", "43%"]);
             verify(texts(panel).every(text => !text.includes("100")));
             compare(panel.history.cpu, [57, null]);
             plugin.clientResourceChanged(58, 43);
-            compare(values(), ["58 %", "43 %"]);
+            compare(values(), ["58%", "43%"]);
         }
 
         function test_keepsFiveMinutes() {
@@ -73,8 +73,8 @@ Item {
         function test_accessibleNamesTellTheValues() {
             prepare();
             plugin.clientResourceChanged(57, 42);
-            verify(inWindow("CPU of this computer: 57 %"));
-            verify(inWindow("Memory of this computer: 42 %"));
+            verify(inWindow("CPU of this computer: 57%"));
+            verify(inWindow("Memory of this computer: 42%"));
         }
     }
 }

@@ -157,6 +157,11 @@ Item {
             tryVerify(() => pane(ErrorsPane).mapToItem(view, 0, 0).y === before);
         }
 
+        function test_anInvalidDateIsNoDate() {
+            prepare({ "serverConnected": false, "connectionSince": new Date(NaN) });
+            verify(hasText(view, "Nothing is known about the site"));
+        }
+
         function test_snoozeAnswerIsNoticed() {
             prepare();
             plugin.setSnoozeResponse(true);

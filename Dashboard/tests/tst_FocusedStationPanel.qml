@@ -84,13 +84,13 @@ Item {
         function test_showsEachRowOfTheModel() {
             prepare();
             plugin.focusStationResource = "a";
-            plugin.report(95, 20, [network("eth0", 10, 1e6), network("eth1", 50, 2e9)]);
+            plugin.report(95, 20, [network("eth0", 10, 10), network("eth1", 50, 1000)]);
             tryVerify(() => cards().length === 4);
-            compare(texts(cards()[0]), ["CPU usage", "95 %", "over threshold 90 %"]);
-            compare(texts(cards()[1]), ["Memory usage", "20 %", "threshold 90 %"]);
-            compare(texts(cards()[2]), ["Network usage · eth0", "10 %", "1.0 Mbit/s · threshold 50 %"]);
+            compare(texts(cards()[0]), ["CPU usage", "95%", "over threshold 90%"]);
+            compare(texts(cards()[1]), ["Memory usage", "20%", "threshold 90%"]);
+            compare(texts(cards()[2]), ["Network usage · eth0", "10%", "bandwidth 10 Mbit/s · threshold 50%"]);
             compare(texts(cards()[3]),
-                    ["Network usage · eth1", "50 %", "2.0 Gbit/s · over threshold 50 %"]);
+                    ["Network usage · eth1", "50%", "bandwidth 1 Gbit/s · over threshold 50%"]);
             verify(hasText(panel, "Lobby"));
         }
 

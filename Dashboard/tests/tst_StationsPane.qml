@@ -51,7 +51,7 @@ Item {
             answers.surface = plugin;
             answers.serverConnected = true;
             pane = make(paneComponent, properties);
-            waitForRendering(pane);
+            tryVerify(() => rows().length === pane.directory.rows.length);
         }
 
         function cleanup() {
@@ -60,8 +60,12 @@ Item {
             pane = null;
         }
 
+        function rows() {
+            return itemsWhere(pane, item => item instanceof StationRow);
+        }
+
         function row(name) {
-            return itemsWhere(pane, item => item instanceof StationRow && item.name === name)[0];
+            return rows().find(item => item.name === name);
         }
 
         function mark(name) {

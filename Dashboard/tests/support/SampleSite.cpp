@@ -90,8 +90,8 @@ void fillUsage(FakePlugin &plugin)
     for (int step = 0; step < 48; ++step) {
         plugin.report(qRound(std::min(97.0, 60 + 0.8 * step + wave(step, 0, 6, 4))),
                       qRound(wave(step, 63, 3, 9)),
-                      {network(QStringLiteral("eth0"), wave(step, 18, 6, 5), 182e6),
-                       network(QStringLiteral("eth1"), wave(step, 54, 9, 6), 561e6)});
+                      {network(QStringLiteral("eth0"), wave(step, 18, 6, 5), 1000),
+                       network(QStringLiteral("eth1"), wave(step, 54, 9, 6), 1000)});
     }
 }
 
