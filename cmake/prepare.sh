@@ -59,7 +59,7 @@ logged() {
     fi
 }
 
-# build PRESET
+# build PRESET [TARGET...]
 build() {
     local directory="build/$1"
     mkdir -p "$directory"
@@ -67,9 +67,9 @@ build() {
         say "Configuring $directory"
         logged "$directory/configure.log" cmake --preset "$1"
     fi
-    if ! ninja -C "$directory" -n 2>/dev/null | grep -q 'no work to do'; then
+    if ! ninja -C "$directory" -n "${@:2}" 2>/dev/null | grep -q 'no work to do'; then
         say "Building $directory (some minutes the first time)"
-        logged "$directory/build.log" ninja -C "$directory"
+        logged "$directory/build.log" ninja -C "$directory" "${@:2}"
     fi
 }
 
