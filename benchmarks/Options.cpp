@@ -4,12 +4,15 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <cstdio>
+#include <cstdlib>
 
 namespace {
 
 [[noreturn]] void refuse(const QString &value)
 {
-    qFatal("This value makes no sense: %s (see --help)", qUtf8Printable(value));
+    std::fprintf(stderr, "This value makes no sense: %s (see --help)\n", qUtf8Printable(value));
+    std::exit(EXIT_FAILURE);
 }
 
 double positiveNumber(const QString &text)
