@@ -134,6 +134,10 @@
         <source>the snooze of %1</source>
         <translation>%1 ist nicht mehr zurückgestellt</translation>
     </message>
+    <message>
+        <source>%1%</source>
+        <translation>%1 %</translation>
+    </message>
 </context>
 <context>
     <name>DashboardWindow</name>

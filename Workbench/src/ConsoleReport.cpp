@@ -26,7 +26,7 @@ QString number(int value)
 // A failed sample is negative.
 QString percentageText(int percentage)
 {
-    return percentage < 0 ? ConsoleReport::tr("unknown") : QStringLiteral("%1%").arg(percentage);
+    return percentage < 0 ? ConsoleReport::tr("unknown") : ConsoleReport::tr("%1%").arg(percentage);
 }
 
 QString nodeIds(const QVariant &ownParts, const QString &parentId)
