@@ -12,6 +12,8 @@ QtObject {
     /// Whether station and time stand on a second line.
     readonly property bool stacked: width < Theme.em(56)
 
+    readonly property real rowHeight: stacked ? Theme.em(3.4) : Theme.rowHeight
+
     readonly property real kindX: Theme.em(2.3)
     readonly property real kindWidth: Math.min(Theme.em(17), width * 0.36)
     readonly property real ageWidth: stacked ? timeWidth : Theme.em(6)

@@ -49,7 +49,7 @@ Item {
     signal checkToggled
     signal hoverChanged(hovered: bool)
 
-    height: columns.stacked ? Theme.em(3.4) : Theme.rowHeight
+    height: columns.rowHeight
 
     Accessible.role: Accessible.ListItem
     Accessible.name: Format.fill(qsTr("%1, %2, %3, since %4", "kind, device, station, time"),
