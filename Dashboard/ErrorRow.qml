@@ -36,6 +36,7 @@ Item {
 
     readonly property bool hasTime: (timestampRole ?? 0) > 0
     readonly property string age: hasTime ? Format.age(timestampRole, Clock.now) : qsTr("unknown")
+    readonly property string fullTime: hasTime ? Format.dateTime(timestampRole) : ""
     readonly property string time: hasTime ? Format.recentTime(timestampRole, Clock.now) : ""
     readonly property color kindColor: Theme.stateColor(ErrorKinds.severity(kind))
 
@@ -43,17 +44,18 @@ Item {
     readonly property bool truncated: kindLabel.truncated || deviceLabel.truncated
                                       || stationLabel.truncated
     readonly property string fullText: (errorNameRole ?? "") + "\n" + (triggerDeviceNameRole ?? "")
+                                       + "\n" + fullTime
 
     signal pressed(event: var)
     signal doubleClicked
     signal checkToggled
     signal hoverChanged(hovered: bool)
 
-    height: columns.stacked ? Theme.em(3.4) : Theme.rowHeight
+    height: columns.rowHeight
 
     Accessible.role: Accessible.ListItem
     Accessible.name: Format.fill(qsTr("%1, %2, %3, since %4", "kind, device, station, time"),
-                                 errorNameRole, deviceName, stationName, time)
+                                 errorNameRole, deviceName, stationName, fullTime)
     Accessible.selectable: true
     Accessible.selected: selected
     Accessible.focusable: true

@@ -45,10 +45,14 @@ QtObject {
         publish();
     }
 
-    /// Selects from the anchor to @p row and nothing else.
+    /// Selects from the anchor to @p row and nothing else; the row alone when the anchor's error is
+    /// over.
     function extendTo(row: int) {
-        const from = Math.max(0, rowOf(anchor));
-        selectRange(Math.min(from, row), Math.max(from, row));
+        const from = rowOf(anchor);
+        if (from < 0)
+            selectOnly(row);
+        else
+            selectRange(Math.min(from, row), Math.max(from, row));
     }
 
     function selectAll() {

@@ -18,9 +18,12 @@ ListView {
         tableWidth: table.width
     }
 
+    /// The row that the pointer rests on, or null.
     property ErrorRow hoveredRow: null
 
+    /// The user wants to see the station of an error.
     signal stationRequested(stationID: string)
+    /// The user wants the context menu at @p position of the table.
     signal menuRequested(position: point)
     signal snoozeRequested
     signal copyRequested
@@ -33,7 +36,6 @@ ListView {
     cacheBuffer: 0
     currentIndex: -1
     keyNavigationEnabled: false
-    highlightFollowsCurrentItem: true
     highlightMoveDuration: 0
     highlightMoveVelocity: -1
     boundsBehavior: Flickable.StopAtBounds
@@ -57,7 +59,12 @@ ListView {
         selected: table.selection.contains(uniqueIDRole ?? "")
         onPressed: event => table.pressRow(row.index, event)
         onDoubleClicked: table.stationRequested(row.stationIDRole ?? "")
-        onHoverChanged: hovered => table.hoveredRow = hovered ? row : null
+        onHoverChanged: hovered => {
+            if (hovered)
+                table.hoveredRow = row;
+            else if (table.hoveredRow === row)
+                table.hoveredRow = null;
+        }
         onCheckToggled: {
             table.takeCurrent(row.index);
             table.selection.toggle(row.index);
@@ -112,7 +119,7 @@ ListView {
             selectRow(currentIndex, modifiers);
     }
 
-    readonly property int rowsPerPage: Math.max(1, Math.floor(height / Theme.rowHeight) - 1)
+    readonly property int rowsPerPage: Math.max(1, Math.floor(height / columns.rowHeight) - 1)
 
     Keys.onPressed: event => {
         event.accepted = handleKey(event.key, event.modifiers);

@@ -19,11 +19,15 @@ QtObject {
         return Qt.formatDateTime(new Date(milliseconds), "yyyy-MM-dd hh:mm:ss t");
     }
 
-    /// As dateTime(), without the date when it is that of @p now.
+    /// As dateTime(), but short: without what it has in common with @p now, and no more exact than
+    /// its age is worth.
     function recentTime(milliseconds: real, now: real): string {
         const date = new Date(milliseconds);
-        const today = date.toDateString() === new Date(now).toDateString();
-        return Qt.formatDateTime(date, today ? "hh:mm:ss t" : "yyyy-MM-dd hh:mm t");
+        const today = new Date(now);
+        if (date.toDateString() === today.toDateString())
+            return Qt.formatDateTime(date, "hh:mm:ss t");
+        const sameYear = date.getFullYear() === today.getFullYear();
+        return Qt.formatDateTime(date, sameYear ? "MM-dd hh:mm t" : "yyyy-MM-dd t");
     }
 
     /// A length of time in its two largest units; a negative one counts as none.

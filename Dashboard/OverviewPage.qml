@@ -28,8 +28,8 @@ FocusScope {
     readonly property real paneTop: margin + (arrangement === "single" ? tabs.height + margin : 0)
     readonly property real paneHeight: height - paneTop - margin
     readonly property real innerWidth: width - 2 * margin
-    readonly property real stationsWidth: Math.min(Theme.em(26), Math.max(Theme.em(20), width * 0.16))
-    readonly property real usageWidth: Math.min(Theme.em(40), Math.max(Theme.em(22), width * 0.22))
+    readonly property real stationsWidth: Math.min(Theme.em(26), Math.max(Theme.em(19), width * 0.16))
+    readonly property real usageWidth: Math.min(Theme.em(40), Math.max(Theme.em(21.5), width * 0.22))
 
     readonly property MonitoringSupport support: MonitoringSupport {
         surface: page.surface

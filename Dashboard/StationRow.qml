@@ -37,7 +37,7 @@ Item {
                                                              : qsTr("State unknown")
     readonly property string supportText: supported === true ? qsTr("monitored")
                                                              : supported === false
-                                                               ? qsTr("no monitoring") : ""
+                                                               ? qsTr("unmonitored") : ""
     readonly property string detail: supportText === "" ? stateText
                                                         : stateText + " · " + supportText
 

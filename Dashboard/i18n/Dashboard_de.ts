@@ -567,10 +567,6 @@
         <source>monitored</source>
         <translation>überwacht</translation>
     </message>
-    <message>
-        <source>no monitoring</source>
-        <translation>unüberwacht</translation>
-    </message>
     <message numerus="yes">
         <source>%1, %2, %n error(s)</source>
         <comment>station, state</comment>
@@ -578,6 +574,10 @@
             <numerusform>%1, %2, %n Fehler</numerusform>
             <numerusform>%1, %2, %n Fehler</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>unmonitored</source>
+        <translation>unüberwacht</translation>
     </message>
 </context>
 <context>

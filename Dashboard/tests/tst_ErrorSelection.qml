@@ -114,10 +114,14 @@ Item {
             compare(ids(), []);
         }
 
-        function test_anUnknownAnchorStartsAtTheTop() {
+        function test_withoutItsAnchorARangeIsOneRow() {
             prepare();
-            selection.extendTo(1);
-            compare(ids(), ["3_s/c0", "3_s/c1"]);
+            selection.extendTo(3);
+            compare(ids(), ["3_s/c3"]);
+            selection.selectOnly(1);
+            plugin.removeError("3_s/c1");
+            selection.extendTo(2);
+            compare(ids(), ["3_s/c3"]);
         }
     }
 }

@@ -71,7 +71,7 @@ Item {
             compare(texts(rowAt(3)), ["Camera disconnected", "Door 3", "Lobby", "3 min",
                                       "14:04:33 CEST"]);
             compare(rowAt(3).Accessible.name,
-                    "Camera disconnected, Door 3, Lobby, since 14:04:33 CEST");
+                    "Camera disconnected, Door 3, Lobby, since 2024-05-14 14:04:33 CEST");
         }
 
         function test_agesFollowTheSharedClock() {

@@ -41,9 +41,11 @@ Item {
             compare(Format.dateTime(data.date.getTime()), data.text);
         }
 
-        function test_recentTimeLeavesOutTheDateOfToday() {
+        function test_recentTimeLeavesOutWhatGoesWithoutSaying() {
             compare(Format.recentTime(now - hour, now), "13:07:33 CEST");
-            compare(Format.recentTime(now - 24 * hour, now), "2024-05-13 14:07 CEST");
+            compare(Format.recentTime(now - 24 * hour, now), "05-13 14:07 CEST");
+            compare(Format.recentTime(new Date(2023, 11, 31, 23, 0, 0).getTime(), now),
+                    "2023-12-31 CET");
         }
 
         function test_percentIsWhole() {

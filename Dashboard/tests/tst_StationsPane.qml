@@ -94,7 +94,7 @@ Item {
             plugin.isSupportSystemMonitor("a", true);
             plugin.isSupportSystemMonitor("b", false);
             verify(hasText(row("Lobby"), "Connected · monitored"));
-            verify(hasText(row("Quay"), "Connected · no monitoring"));
+            verify(hasText(row("Quay"), "Connected · unmonitored"));
             verify(hasText(row("Crane"), "Disconnected"));
         }
 
