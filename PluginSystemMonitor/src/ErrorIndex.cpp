@@ -64,7 +64,11 @@ void ErrorIndex::setModel(QStandardItemModel *model)
     connect(model, &Model::columnsRemoved, this, &ErrorIndex::trackAnew);
     connect(model, &Model::modelReset, this, &ErrorIndex::trackAnew);
     connect(model, &Model::modelAboutToBeReset, this, &ErrorIndex::clear);
-    connect(model, &Model::columnsAboutToBeRemoved, this, &ErrorIndex::clear);
+    connect(model, &Model::columnsAboutToBeRemoved, this,
+            [this](const QModelIndex &parent, int first) {
+                if (!parent.isValid() && first == 0)
+                    clear();
+            });
     trackAnew();
 }
 
@@ -73,6 +77,9 @@ void ErrorIndex::insert(const QString &key, QStandardItem *item)
     const auto it = m_rows.find(item);
     if (it == m_rows.end())
         return;
+    const auto old = m_itemByKey.constFind(it->key);
+    if (old != m_itemByKey.cend() && old.value() == item)
+        m_itemByKey.erase(old);
     it->key = key;
     m_itemByKey.insert(key, item);
 }
@@ -210,12 +217,14 @@ void ErrorIndex::trackAnew()
     const QHash<QString, QStandardItem *> oldItemByKey = m_itemByKey;
     clear();
     for (int row = 0; row < m_model->rowCount(); ++row) {
+        // The item that a bare row gets may have the address of one that was deleted.
+        const bool wasBare = !m_model->item(row);
         QStandardItem *item = itemOfRow(row);
         if (!item)
             continue;
         track(item);
         const QString key = oldRows.value(item).key;
-        if (oldItemByKey.value(key) == item)
+        if (!wasBare && oldItemByKey.value(key) == item)
             insert(key, item);
     }
 }

@@ -27,8 +27,9 @@ public:
     /// the index is not used.
     void setModel(QStandardItemModel *model);
 
-    /// Files the row of an item under its key, in place of what was filed there. An item that is no
-    /// row of the model, which it may have left by now, files nothing.
+    /// Files the row of an item under its key, in place of what was filed there and of the key that
+    /// the row had. An item that is no row of the model, which it may have left by now, files
+    /// nothing.
     void insert(const QString &key, QStandardItem *item);
     /// Forgets a key; its row stays where it is.
     void remove(const QString &key);
