@@ -6,7 +6,6 @@ namespace {
 
 bool isText(const QVariant &id)
 {
-    // The search compares ids as variants: a number never equals a text.
     return id.typeId() == QMetaType::QString;
 }
 
@@ -68,6 +67,9 @@ QModelIndex TopologyIndex::find(const QString &id)
         return searchModel(id);
     if (!m_isBuilt)
         build();
+    // The search compares ids as variants: the number 7 equals the text "7".
+    if (m_hasOtherIds)
+        return searchModel(id);
     const auto it = m_nodes.constFind(id);
     return it == m_nodes.cend() ? QModelIndex() : m_model->indexFromItem(it->item);
 }
@@ -89,6 +91,7 @@ void TopologyIndex::build()
 void TopologyIndex::discard()
 {
     m_isBuilt = false;
+    m_hasOtherIds = false;
     m_nodes.clear();
 }
 
@@ -120,13 +123,15 @@ bool TopologyIndex::addNodes(const QModelIndex &parent, int first, int last)
                 ++it->count;
                 allNew = false;
             }
+        } else if (id.isValid()) {
+            m_hasOtherIds = true;
         }
         allNew &= addNodes(index, 0, m_model->rowCount(index) - 1);
     }
     return allNew;
 }
 
-/// Removes the nodes and what is below them. Returns whether no id stays with another node.
+/// Removes the nodes and what is below them. Returns whether the table is true of what stays.
 bool TopologyIndex::removeNodes(const QModelIndex &parent, int first, int last)
 {
     bool allGone = true;
@@ -141,6 +146,8 @@ bool TopologyIndex::removeNodes(const QModelIndex &parent, int first, int last)
                 allGone = false;
             else
                 m_nodes.erase(it);
+        } else if (id.isValid()) {
+            allGone = false;
         }
         allGone &= removeNodes(index, 0, m_model->rowCount(index) - 1);
     }

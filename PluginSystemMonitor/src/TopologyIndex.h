@@ -9,7 +9,7 @@
 #include <QString>
 
 /// Finds nodes of the topology model by id, with the answer of the model's own recursive search:
-/// the first node in the order of the tree whose id is exactly that text.
+/// the first node in the order of the tree whose id equals that text.
 ///
 /// The table of ids is made at the first search and kept true by the model's signals. A change that
 /// could make another node the first one, such as an id given twice, discards it until it is
@@ -44,7 +44,8 @@ private:
     QPointer<QStandardItemModel> m_model;
     QHash<QString, Node> m_nodes;
     bool m_isBuilt = false;
-    int m_removals = 0; ///< announced and not yet done
+    bool m_hasOtherIds = false; ///< some id is no text, so that the table cannot tell
+    int m_removals = 0;         ///< announced and not yet done
 };
 
 #endif
