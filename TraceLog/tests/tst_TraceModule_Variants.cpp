@@ -11,7 +11,7 @@ namespace {
 // What is left of tracing with a given library.
 struct Expectation
 {
-    bool libraryIsOpened;
+    bool opensLibrary;
     bool recordIsKept;
     int registrations;
     int moduleId; ///< -1 when the module gets none
@@ -56,7 +56,7 @@ class tst_TraceModule_Variants : public QObject
 private Q_SLOTS:
     void initTestCase();
     void init();
-    void libraryIsOpenedWhenThereIsOne();
+    void opensLibraryWhenThereIsOne();
     void recordIsKeptWhenTheLibraryHandsOneOut();
     void moduleIsRegisteredWhenTheRecordCanRegister();
     void registrationPassesTheContextOfTheRecord();
@@ -92,10 +92,10 @@ void tst_TraceModule_Variants::init()
         m_observer.journal()->clear();
 }
 
-void tst_TraceModule_Variants::libraryIsOpenedWhenThereIsOne()
+void tst_TraceModule_Variants::opensLibraryWhenThereIsOne()
 {
-    QCOMPARE(m_library.handle() != nullptr, m_expected.libraryIsOpened);
-    QCOMPARE(m_observer.journal() != nullptr, m_expected.libraryIsOpened);
+    QCOMPARE(m_library.handle() != nullptr, m_expected.opensLibrary);
+    QCOMPARE(m_observer.journal() != nullptr, m_expected.opensLibrary);
 }
 
 void tst_TraceModule_Variants::recordIsKeptWhenTheLibraryHandsOneOut()
