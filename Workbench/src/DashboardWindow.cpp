@@ -9,11 +9,13 @@
 #include <QQmlEngine>
 #include <QQmlError>
 #include <QQuickItem>
+#include <QSurfaceFormat>
 
 namespace {
 
 constexpr QSize UsualSize(1280, 800);
 constexpr QSize MinimumSize(1024, 640);
+constexpr int SmoothingSamples = 4;
 
 QString describe(const QList<QQmlError> &errors)
 {
@@ -35,6 +37,10 @@ DashboardWindow::DashboardWindow(QQmlEngine &engine, QObject &plugin, const QStr
     : QQuickView(&engine, nullptr)
 {
     engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
+    // Drawn by OpenGL, shapes have jagged edges without this.
+    QSurfaceFormat smooth = requestedFormat();
+    smooth.setSamples(SmoothingSamples);
+    setFormat(smooth);
     setTitle(tr("%1 - system monitor").arg(siteName));
     setResizeMode(QQuickView::SizeRootObjectToView);
     setMinimumSize(MinimumSize);
