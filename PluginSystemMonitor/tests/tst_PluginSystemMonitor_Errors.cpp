@@ -945,7 +945,8 @@ void tst_PluginSystemMonitor_Errors::cameraRemovalMatchesTheWholeId_data()
     // Whatever has the id as its device.
     QTest::newRow("interface") << u"en0"_s << QStringList{cpu, camera, cameraTen, days};
     QTest::newRow("station of a group") << u"st1"_s << QStringList{cpu, camera, cameraTen, network};
-    QTest::newRow("none") << QString() << QStringList{camera, cameraTen, network, days};
+    QTest::newRow("null") << QString() << QStringList{camera, cameraTen, network, days};
+    QTest::newRow("empty") << u""_s << QStringList{camera, cameraTen, network, days};
 }
 
 void tst_PluginSystemMonitor_Errors::cameraRemovalMatchesTheWholeId()
@@ -980,7 +981,8 @@ void tst_PluginSystemMonitor_Errors::stationRemovalGoesByPrefix_data()
     QTest::newRow("unknown") << u"st9"_s << QStringList{own, camera, sub, ten, two, upper, stray};
     QTest::newRow("id of a camera")
         << u"cam"_s << QStringList{own, camera, sub, ten, two, upper, stray};
-    QTest::newRow("none") << QString() << QStringList();
+    QTest::newRow("null") << QString() << QStringList();
+    QTest::newRow("empty") << u""_s << QStringList();
 }
 
 void tst_PluginSystemMonitor_Errors::stationRemovalGoesByPrefix()
