@@ -17,21 +17,14 @@ QVariant detached(const QVariant &value)
     return QString(text.constData(), text.size());
 }
 
-ErrorRow detached(ErrorRow row)
-{
-    for (QVariant &value : row)
-        value = detached(value);
-    return row;
-}
-
 } // namespace
 
 ErrorRow errorRow(const QStandardItemModel &errors, int row)
 {
     ErrorRow values;
     for (std::size_t value = 0; value < values.size(); ++value)
-        values[value] = errors.item(row)->data(roleOf(value));
-    return detached(values);
+        values[value] = detached(errors.item(row)->data(roleOf(value)));
+    return values;
 }
 
 QList<ErrorRow> errorRows(const QStandardItemModel &errors)
@@ -46,7 +39,7 @@ QStandardItem *BareErrorList::append(const ErrorRow &row)
 {
     auto *item = new QStandardItem;
     for (std::size_t value = 0; value < row.size(); ++value)
-        item->setData(row[value], roleOf(value));
+        item->setData(detached(row[value]), roleOf(value));
     model.appendRow(item);
     return item;
 }
@@ -55,6 +48,6 @@ QList<QStandardItem *> BareErrorList::fill(const QList<ErrorRow> &rows)
 {
     QList<QStandardItem *> items;
     for (const ErrorRow &row : rows)
-        items.append(append(detached(row)));
+        items.append(append(row));
     return items;
 }

@@ -88,6 +88,16 @@ QList<QList<ValueChange>> recordChanges(const SilentHost &host, const QVariantLi
     return changes;
 }
 
+// A history that changed is a list of its own.
+QVariant detached(const QVariant &value)
+{
+    if (value.typeId() != QMetaType::QVariantList)
+        return value;
+    QVariantList list = value.toList();
+    list.detach();
+    return list;
+}
+
 double bareReport(const Setting &setting)
 {
     const QVariantList reports = makePeriod();
@@ -105,7 +115,7 @@ double bareReport(const Setting &setting)
     const StopWatch watch;
     for (int i = 0; i < setting.size; ++i) {
         for (const ValueChange &change : changes.at(i % Period))
-            items.at(change.row)->setData(change.value, change.role);
+            items.at(change.row)->setData(detached(change.value), change.role);
     }
     const double milliseconds = watch.milliseconds();
 

@@ -77,22 +77,23 @@ void ErrorIndex::insert(const QString &key, QStandardItem *item)
     const auto it = m_rows.find(item);
     if (it == m_rows.end())
         return;
-    const auto old = m_itemByKey.constFind(it->key);
-    if (old != m_itemByKey.cend() && old.value() == item)
-        m_itemByKey.erase(old);
-    it->key = key;
-    m_itemByKey.insert(key, item);
+    Row &row = it->second;
+    dropKey(row);
+    row.key = key;
+    if (m_itemByKey.insert_or_assign(key, item).second)
+        m_usageKeys.add(key);
 }
 
 void ErrorIndex::remove(const QString &key)
 {
-    m_itemByKey.remove(key);
+    if (m_itemByKey.erase(key) > 0)
+        m_usageKeys.remove(key);
 }
 
 QModelIndex ErrorIndex::find(const QString &key) const
 {
-    const auto it = m_itemByKey.constFind(key);
-    return it == m_itemByKey.cend() ? QModelIndex() : m_model->indexFromItem(it.value());
+    const auto it = m_itemByKey.find(key);
+    return it == m_itemByKey.end() ? QModelIndex() : m_model->indexFromItem(it->second);
 }
 
 QList<QStandardItem *> ErrorIndex::rowsOfStationsStartingWith(const QString &prefix) const
@@ -102,32 +103,62 @@ QList<QStandardItem *> ErrorIndex::rowsOfStationsStartingWith(const QString &pre
         return prefix.isEmpty() || stationID.startsWith(prefix);
     };
     QList<QStandardItem *> items;
-    for (auto it = m_itemsByStation.lowerBound(prefix);
-         it != m_itemsByStation.cend() && belongs(it.key()); ++it)
-        items.append(it.value().values());
+    for (auto it = m_stations.lower_bound(prefix); it != m_stations.end() && belongs(it->first);
+         ++it)
+        appendItems(items, it->second, &Row::sameStation);
     return sortedByRow(items, std::greater<>());
 }
 
 QList<QStandardItem *> ErrorIndex::rowsOfStation(const QString &stationID) const
 {
-    return sortedByRow(m_itemsByStation.value(stationID).values(), std::less<>());
+    QList<QStandardItem *> items;
+    if (const auto it = m_stations.find(stationID); it != m_stations.end())
+        appendItems(items, it->second, &Row::sameStation);
+    return sortedByRow(items, std::less<>());
 }
 
-QList<QStandardItem *> ErrorIndex::rowsOfDevice(const QString &deviceID) const
+QList<QStandardItem *> ErrorIndex::rowsOfDevice(const QString &deviceID)
 {
+    fileDevices();
     QList<QStandardItem *> items;
-    for (auto it = m_itemsByDevice.lower_bound({deviceID, nullptr});
-         it != m_itemsByDevice.cend() && it->first == deviceID; ++it)
-        items.append(it->second);
+    if (const auto it = m_devices.find(deviceID); it != m_devices.end())
+        appendItems(items, it->second, &Row::sameDevice);
     return sortedByRow(items, std::less<>());
 }
 
 QMap<QString, int> ErrorIndex::countsByStation() const
 {
     QMap<QString, int> counts;
-    for (auto it = m_itemsByStation.cbegin(); it != m_itemsByStation.cend(); ++it)
-        counts.insert(counts.cend(), it.key(), static_cast<int>(it.value().size()));
+    for (const auto &[stationID, group] : m_stations)
+        counts.insert(counts.cend(), stationID, group.size);
     return counts;
+}
+
+void ErrorIndex::addTo(Group &group, Row &row, Links Row::*links)
+{
+    row.*links = {nullptr, group.first};
+    if (group.first)
+        (group.first->*links).previous = &row;
+    group.first = &row;
+    ++group.size;
+}
+
+void ErrorIndex::takeFrom(Group &group, Row &row, Links Row::*links)
+{
+    const Links neighbours = row.*links;
+    if (neighbours.next)
+        (neighbours.next->*links).previous = neighbours.previous;
+    if (neighbours.previous)
+        (neighbours.previous->*links).next = neighbours.next;
+    else
+        group.first = neighbours.next;
+    --group.size;
+}
+
+void ErrorIndex::appendItems(QList<QStandardItem *> &items, const Group &group, Links Row::*links)
+{
+    for (const Row *row = group.first; row; row = (row->*links).next)
+        items.append(row->item);
 }
 
 QStandardItem *ErrorIndex::itemOfRow(int row) const
@@ -138,36 +169,79 @@ QStandardItem *ErrorIndex::itemOfRow(int row) const
 
 void ErrorIndex::track(QStandardItem *item)
 {
-    file(item, {QString(), item->data(SystemErrorModel::StationIDRole).toString(),
-                item->data(SystemErrorModel::DeviceIDRole).toString()});
+    const auto [it, isNew] = m_rows.try_emplace(item);
+    Row &row = it->second;
+    if (!isNew)
+        unfile(row);
+    row.item = item;
+    file(row);
 }
 
 void ErrorIndex::untrack(const QStandardItem *item)
 {
-    const Row row = m_rows.take(item);
-    unfile(item, row);
-    const auto it = m_itemByKey.constFind(row.key);
-    if (it != m_itemByKey.cend() && it.value() == item)
-        m_itemByKey.erase(it);
+    const auto it = m_rows.find(item);
+    if (it == m_rows.end())
+        return;
+    unfile(it->second);
+    dropKey(it->second);
+    m_rows.erase(it);
 }
 
-void ErrorIndex::file(QStandardItem *item, Row row)
+void ErrorIndex::file(Row &row)
 {
-    m_itemsByStation[row.stationID].insert(item);
-    m_itemsByDevice.emplace(row.deviceID, item);
-    m_rows.insert(item, std::move(row));
+    fileUnderStation(row);
+    if (m_filesDevices)
+        fileUnderDevice(row);
 }
 
-void ErrorIndex::unfile(const QStandardItem *item, const Row &row)
+void ErrorIndex::unfile(Row &row)
 {
-    auto *const key = const_cast<QStandardItem *>(item);
-    const auto station = m_itemsByStation.find(row.stationID);
-    if (station != m_itemsByStation.end()) {
-        station.value().remove(key);
-        if (station.value().isEmpty())
-            m_itemsByStation.erase(station);
+    takeFrom(row.station->second, row, &Row::sameStation);
+    if (!row.station->second.first) {
+        if (row.station == m_lastStation)
+            m_lastStation = nullptr;
+        m_stations.erase(m_stations.find(row.station->first));
     }
-    m_itemsByDevice.erase({row.deviceID, key});
+    if (!m_filesDevices)
+        return;
+    takeFrom(row.device->second, row, &Row::sameDevice);
+    if (!row.device->second.first)
+        m_devices.erase(m_devices.find(row.device->first));
+}
+
+void ErrorIndex::fileUnderStation(Row &row)
+{
+    const QString stationID = row.item->data(SystemErrorModel::StationIDRole).toString();
+    // Errors come in by the station.
+    if (!m_lastStation || m_lastStation->first != stationID)
+        m_lastStation = &*m_stations.try_emplace(stationID).first;
+    row.station = m_lastStation;
+    addTo(row.station->second, row, &Row::sameStation);
+}
+
+void ErrorIndex::fileUnderDevice(Row &row)
+{
+    const QString deviceID = row.item->data(SystemErrorModel::DeviceIDRole).toString();
+    row.device = &*m_devices.try_emplace(deviceID).first;
+    addTo(row.device->second, row, &Row::sameDevice);
+}
+
+void ErrorIndex::fileDevices()
+{
+    if (m_filesDevices)
+        return;
+    m_filesDevices = true;
+    for (auto &[item, row] : m_rows)
+        fileUnderDevice(row);
+}
+
+void ErrorIndex::dropKey(const Row &row)
+{
+    const auto it = m_itemByKey.find(row.key);
+    if (it == m_itemByKey.end() || it->second != row.item)
+        return;
+    m_itemByKey.erase(it);
+    m_usageKeys.remove(row.key);
 }
 
 void ErrorIndex::trackRows(int first, int last)
@@ -187,17 +261,14 @@ void ErrorIndex::untrackRows(int first, int last)
 void ErrorIndex::refileRows(int first, int last)
 {
     for (int row = first; row <= last; ++row) {
-        QStandardItem *item = itemOfRow(row);
-        const auto it = m_rows.constFind(item);
-        if (it == m_rows.cend()) {
+        const auto it = m_rows.find(itemOfRow(row));
+        if (it == m_rows.end()) {
             // Another item stands where one was filed, which may be deleted by now.
             trackAnew();
             return;
         }
-        const Row filed = it.value();
-        unfile(item, filed);
-        file(item, {filed.key, item->data(SystemErrorModel::StationIDRole).toString(),
-                    item->data(SystemErrorModel::DeviceIDRole).toString()});
+        unfile(it->second);
+        file(it->second);
     }
 }
 
@@ -213,8 +284,8 @@ void ErrorIndex::endRemoval()
 void ErrorIndex::trackAnew()
 {
     m_tracksDoomed = m_removals > 0;
-    const QHash<const QStandardItem *, Row> oldRows = m_rows;
-    const QHash<QString, QStandardItem *> oldItemByKey = m_itemByKey;
+    const auto oldRows = std::move(m_rows);
+    const auto oldItemByKey = std::move(m_itemByKey);
     clear();
     for (int row = 0; row < m_model->rowCount(); ++row) {
         // The item that a bare row gets may have the address of one that was deleted.
@@ -223,8 +294,12 @@ void ErrorIndex::trackAnew()
         if (!item)
             continue;
         track(item);
-        const QString key = oldRows.value(item).key;
-        if (!wasBare && oldItemByKey.value(key) == item)
+        const auto old = oldRows.find(item);
+        if (wasBare || old == oldRows.end())
+            continue;
+        const QString &key = old->second.key;
+        const auto filed = oldItemByKey.find(key);
+        if (filed != oldItemByKey.end() && filed->second == item)
             insert(key, item);
     }
 }
@@ -233,6 +308,8 @@ void ErrorIndex::clear()
 {
     m_rows.clear();
     m_itemByKey.clear();
-    m_itemsByStation.clear();
-    m_itemsByDevice.clear();
+    m_usageKeys.clear();
+    m_stations.clear();
+    m_lastStation = nullptr;
+    m_devices.clear();
 }

@@ -1,16 +1,17 @@
 #ifndef ERRORINDEX_H
 #define ERRORINDEX_H
 
+#include "UsageKeys.h"
+
 #include <QHash>
 #include <QList>
 #include <QMap>
 #include <QModelIndex>
 #include <QObject>
-#include <QSet>
 #include <QString>
 
-#include <set>
-#include <utility>
+#include <map>
+#include <unordered_map>
 
 class QStandardItem;
 class QStandardItemModel;
@@ -36,32 +37,72 @@ public:
     /// The row filed under a key, or an invalid index.
     QModelIndex find(const QString &key) const;
 
+    /// False when no usage error of this station is filed under any key.
+    bool mayHoldUsageError(const QString &stationID) const
+    {
+        return m_usageKeys.mayHold(stationID);
+    }
+
     /// The rows of every station whose id begins with @p prefix, the last row first.
     QList<QStandardItem *> rowsOfStationsStartingWith(const QString &prefix) const;
     /// The rows of one station, the first row first.
     QList<QStandardItem *> rowsOfStation(const QString &stationID) const;
-    /// The rows of one device, the first row first.
-    QList<QStandardItem *> rowsOfDevice(const QString &deviceID) const;
+    /// The rows of one device, the first row first. Devices leave a site seldom, if ever: rows are
+    /// filed under them from the first call on.
+    QList<QStandardItem *> rowsOfDevice(const QString &deviceID);
     /// How many rows each station has, in the order of the station ids.
     QMap<QString, int> countsByStation() const;
 
     /// Whether an item is a row of the model; it may be deleted if not.
-    bool contains(const QStandardItem *item) const { return m_rows.contains(item); }
+    bool contains(const QStandardItem *item) const { return m_rows.count(item) > 0; }
 
 private:
+    struct Row;
+    struct Links
+    {
+        Row *previous = nullptr;
+        Row *next = nullptr;
+    };
+    /// The rows of one station or device, chained through themselves: a group of any size takes
+    /// and gives up a row in constant time.
+    struct Group
+    {
+        Row *first = nullptr;
+        int size = 0;
+    };
+    using Stations = std::map<QString, Group>;
+    using Devices = std::unordered_map<QString, Group>;
+
     /// What an item is filed under.
     struct Row
     {
+        QStandardItem *item = nullptr;
         QString key; ///< empty for a row that was never given one
-        QString stationID;
-        QString deviceID;
+        Stations::value_type *station = nullptr;
+        Devices::value_type *device = nullptr;
+        Links sameStation;
+        Links sameDevice;
     };
+
+    /// Not noexcept, so that the table keeps the hashes: it grows without reading the keys again.
+    struct KeyHash
+    {
+        std::size_t operator()(const QString &key) const { return qHash(key); }
+    };
+
+    static void addTo(Group &group, Row &row, Links Row::*links);
+    static void takeFrom(Group &group, Row &row, Links Row::*links);
+    static void appendItems(QList<QStandardItem *> &items, const Group &group, Links Row::*links);
 
     QStandardItem *itemOfRow(int row) const;
     void track(QStandardItem *item);
     void untrack(const QStandardItem *item);
-    void file(QStandardItem *item, Row row);
-    void unfile(const QStandardItem *item, const Row &row);
+    void file(Row &row);
+    void unfile(Row &row);
+    void fileUnderStation(Row &row);
+    void fileUnderDevice(Row &row);
+    void fileDevices();
+    void dropKey(const Row &row);
     void trackRows(int first, int last);
     void untrackRows(int first, int last);
     void refileRows(int first, int last);
@@ -70,10 +111,13 @@ private:
     void clear();
 
     QStandardItemModel *m_model = nullptr;
-    QHash<const QStandardItem *, Row> m_rows;
-    QHash<QString, QStandardItem *> m_itemByKey;
-    QMap<QString, QSet<QStandardItem *>> m_itemsByStation;
-    std::set<std::pair<QString, QStandardItem *>> m_itemsByDevice;
+    std::unordered_map<const QStandardItem *, Row> m_rows; ///< rows stay where they are in memory
+    std::unordered_map<QString, QStandardItem *, KeyHash> m_itemByKey;
+    UsageKeys m_usageKeys;
+    Stations m_stations;
+    Stations::value_type *m_lastStation = nullptr; ///< under which a row was filed last
+    Devices m_devices;
+    bool m_filesDevices = false;
     int m_removals = 0;          ///< announced and not yet done
     bool m_tracksDoomed = false; ///< rows were tracked that a removal announced
 };

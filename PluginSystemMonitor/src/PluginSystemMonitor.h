@@ -258,6 +258,13 @@ protected:
     mutable TopologyIndex topologyIndex;        ///< finds nodes of that model by id
     QSharedPointer<SystemResourceModelControl> resourceModelControl;
     ErrorIndex indexMap; ///< finds rows by unique key
+    /// The record of the error last raised, kept for its nodes.
+    QMap<QString, QVariant> errorRecord{
+        {QStringLiteral("deviceID"), {}},  {QStringLiteral("errorCategory"), {}},
+        {QStringLiteral("errorName"), {}}, {QStringLiteral("errorType"), {}},
+        {QStringLiteral("id"), {}},        {QStringLiteral("stationID"), {}},
+        {QStringLiteral("timestamp"), {}}, {QStringLiteral("triggerDeviceName"), {}},
+    };
     QString focusStationId;
     QList<QVariant> stationErrors;  ///< value of the property stationErrorList
     QStringList snoozedDeviceList;  ///< ids of nodes whose disconnections are not listed
@@ -284,8 +291,10 @@ private:
     QString nameInWalk(const QModelIndex &node, int type, const QString &nodeID) const;
     void reloadStorageUsage(const QString &stationID);
 
-    /// Completes a record with name and time and lists it.
-    void appendError(QMap<QString, QVariant> record);
+    /// Lists an error under a key, with its name and the time.
+    void appendError(ErrorCategory category, ErrorType type, const QString &key,
+                     const QString &stationID, const QString &deviceID,
+                     const QString &triggerDeviceName);
     QModelIndexList errorsOfType(ErrorType type) const;
     /// Removes rows of the list, in this order.
     void removeRows(const QList<QStandardItem *> &items);

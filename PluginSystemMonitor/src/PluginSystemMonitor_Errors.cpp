@@ -1,5 +1,6 @@
 #include "PluginSystemMonitor.h"
 
+#include "ErrorKey.h"
 #include "PluginSystemMonitor_Log.h"
 #include "SystemErrorItemBuilder.h"
 #include "SystemErrorModel.h"
@@ -25,14 +26,7 @@ QString getParentStationID(const QString &deviceID)
 
 QString PluginSystemMonitor::uniqueId(ErrorType type, const QString &id, const QString &subId) const
 {
-    QString key = QString::number(type) + QLatin1Char('_') + id;
-    if (subId.isEmpty())
-        return key;
-    // A marker in the id is open to the substitution of the sub-id: such keys must stay what they
-    // are.
-    if (id.contains(QLatin1Char('%')))
-        return (key + QStringLiteral("_%3")).arg(subId);
-    return key + QLatin1Char('_') + subId;
+    return ErrorKey(type, id, subId).toString();
 }
 
 QString PluginSystemMonitor::getErrorName(ErrorType type) const
@@ -153,7 +147,7 @@ void PluginSystemMonitor::clearSystemErrorModel()
 
 QModelIndex PluginSystemMonitor::existError(ErrorType type, const QString &id, const QString &subId)
 {
-    return indexMap.find(uniqueId(type, id, subId));
+    return indexMap.find(ErrorKey(type, id, subId).borrowed());
 }
 
 void PluginSystemMonitor::addSystemError(const QString &stationID, ErrorType type,
@@ -166,16 +160,9 @@ void PluginSystemMonitor::addSystemError(const QString &stationID, ErrorType typ
         return;
     }
 
-    appendError({
-        {QStringLiteral("id"), uniqueId(type, stationID, deviceID)},
-        {QStringLiteral("stationID"), stationID},
-        {QStringLiteral("deviceID"), deviceID},
-        {QStringLiteral("errorCategory"), static_cast<int>(SystemCategory)},
-        {QStringLiteral("errorType"), static_cast<int>(type)},
-        {QStringLiteral("triggerDeviceName"), triggerDeviceName.isEmpty()
-                                                  ? getTriggerDeviceName(SystemCategory, stationID)
-                                                  : triggerDeviceName},
-    });
+    appendError(SystemCategory, type, uniqueId(type, stationID, deviceID), stationID, deviceID,
+                triggerDeviceName.isEmpty() ? getTriggerDeviceName(SystemCategory, stationID)
+                                            : triggerDeviceName);
 }
 
 void PluginSystemMonitor::addCameraError(const QString &deviceID, ErrorType type,
@@ -188,38 +175,35 @@ void PluginSystemMonitor::addCameraError(const QString &deviceID, ErrorType type
         return;
     }
 
-    appendError({
-        {QStringLiteral("id"), uniqueId(type, deviceID, QString())},
-        {QStringLiteral("stationID"), getParentStationID(deviceID)},
-        {QStringLiteral("deviceID"), deviceID},
-        {QStringLiteral("errorCategory"), static_cast<int>(CameraCategory)},
-        {QStringLiteral("errorType"), static_cast<int>(type)},
-        {QStringLiteral("triggerDeviceName"), triggerDeviceName.isEmpty()
-                                                  ? getTriggerDeviceName(CameraCategory, deviceID)
-                                                  : triggerDeviceName},
-    });
+    appendError(CameraCategory, type, uniqueId(type, deviceID, QString()),
+                getParentStationID(deviceID), deviceID,
+                triggerDeviceName.isEmpty() ? getTriggerDeviceName(CameraCategory, deviceID)
+                                            : triggerDeviceName);
 }
 
 void PluginSystemMonitor::addStorageError(const QString &stationID, ErrorType type,
                                           const QString &groupName, const QString &groupID)
 {
-    appendError({
-        {QStringLiteral("id"), uniqueId(type, stationID, groupID)},
-        {QStringLiteral("stationID"), stationID},
-        {QStringLiteral("deviceID"), stationID},
-        {QStringLiteral("errorCategory"), static_cast<int>(SystemCategory)},
-        {QStringLiteral("errorType"), static_cast<int>(type)},
-        {QStringLiteral("triggerDeviceName"), storageLabel(stationID, groupName)},
-    });
+    appendError(SystemCategory, type, uniqueId(type, stationID, groupID), stationID, stationID,
+                storageLabel(stationID, groupName));
 }
 
-void PluginSystemMonitor::appendError(QMap<QString, QVariant> record)
+void PluginSystemMonitor::appendError(ErrorCategory category, ErrorType type, const QString &key,
+                                      const QString &stationID, const QString &deviceID,
+                                      const QString &triggerDeviceName)
 {
-    const auto type = static_cast<ErrorType>(record.value(QStringLiteral("errorType")).toInt());
-    record.insert(QStringLiteral("errorName"), getErrorName(type));
-    record.insert(QStringLiteral("timestamp"), QDateTime::currentMSecsSinceEpoch());
-    appendSystemErrorModel(record.value(QStringLiteral("id")).toString(),
-                           SystemErrorItemBuilder::create(record));
+    // The values in the order of their keys: new nodes for every error would cost as much as its
+    // row.
+    auto value = errorRecord.begin();
+    *value++ = deviceID;
+    *value++ = static_cast<int>(category);
+    *value++ = getErrorName(type);
+    *value++ = static_cast<int>(type);
+    *value++ = key;
+    *value++ = stationID;
+    *value++ = QDateTime::currentMSecsSinceEpoch();
+    *value++ = triggerDeviceName;
+    appendSystemErrorModel(key, SystemErrorItemBuilder::create(errorRecord));
 }
 
 void PluginSystemMonitor::removeCameraError(const QString &nodeID)

@@ -5,6 +5,8 @@
 #include "SystemErrorModel.h"
 #include "TopologyRoles.h"
 
+#include <QStringBuilder>
+
 namespace {
 
 // How long the topology plug-in is given to settle before its model is walked.
@@ -140,7 +142,7 @@ QString PluginSystemMonitor::nameInWalk(const QModelIndex &node, int type,
     const QString name = node.data(Topology::DisplayNameRole).toString();
     if (!isCameraInTopologyModel(type))
         return name;
-    return findDeviceName(getParentStationID(nodeID)) + QStringLiteral(" - ") + name;
+    return findDeviceName(getParentStationID(nodeID)) % QStringLiteral(" - ") % name;
 }
 
 void PluginSystemMonitor::reloadStorageUsage(const QString &stationID)
@@ -214,8 +216,11 @@ void PluginSystemMonitor::monitorNetworkUsage(const QString &stationID, int usag
 void PluginSystemMonitor::monitorUsage(ErrorType type, const QString &stationID, int usage,
                                        int threshold, const QString &subId)
 {
-    const QModelIndex error = existError(type, stationID, subId);
     const bool isHigh = usage >= threshold;
+    if (!isHigh && !indexMap.mayHoldUsageError(stationID))
+        return;
+
+    const QModelIndex error = existError(type, stationID, subId);
     if (isHigh && !error.isValid())
         addSystemError(stationID, type, subId, QString());
     else if (!isHigh && error.isValid())

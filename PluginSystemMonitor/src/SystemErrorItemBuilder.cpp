@@ -7,15 +7,18 @@
 QStandardItem *SystemErrorItemBuilder::create(const QMap<QString, QVariant> &record)
 {
     auto *item = new QStandardItem;
-    item->setData(record.value(QStringLiteral("id")), SystemErrorModel::UniqueIDRole);
-    item->setData(record.value(QStringLiteral("stationID")), SystemErrorModel::StationIDRole);
-    item->setData(record.value(QStringLiteral("deviceID")), SystemErrorModel::DeviceIDRole);
-    item->setData(record.value(QStringLiteral("timestamp")), SystemErrorModel::TimestampRole);
-    item->setData(record.value(QStringLiteral("errorCategory")),
-                  SystemErrorModel::ErrorCategoryRole);
-    item->setData(record.value(QStringLiteral("errorType")), SystemErrorModel::ErrorTypeRole);
-    item->setData(record.value(QStringLiteral("errorName")), SystemErrorModel::ErrorNameRole);
-    item->setData(record.value(QStringLiteral("triggerDeviceName")),
-                  SystemErrorModel::TriggerDeviceNameRole);
+    const auto set = [&record, item](const QString &key, int role) {
+        const auto it = record.constFind(key);
+        if (it != record.cend())
+            item->setData(it.value(), role);
+    };
+    set(QStringLiteral("id"), SystemErrorModel::UniqueIDRole);
+    set(QStringLiteral("stationID"), SystemErrorModel::StationIDRole);
+    set(QStringLiteral("deviceID"), SystemErrorModel::DeviceIDRole);
+    set(QStringLiteral("timestamp"), SystemErrorModel::TimestampRole);
+    set(QStringLiteral("errorCategory"), SystemErrorModel::ErrorCategoryRole);
+    set(QStringLiteral("errorType"), SystemErrorModel::ErrorTypeRole);
+    set(QStringLiteral("errorName"), SystemErrorModel::ErrorNameRole);
+    set(QStringLiteral("triggerDeviceName"), SystemErrorModel::TriggerDeviceNameRole);
     return item;
 }

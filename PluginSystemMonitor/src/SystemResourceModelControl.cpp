@@ -58,10 +58,7 @@ void SystemResourceModelControl::updateNetworkModalData(QList<QVariant> networkU
     if (!networkRowsPending || networkUsageList.isEmpty())
         return;
 
-    QStandardItem *firstNetworkRow =
-        findItem(SystemResourceModelItem::TypeRole, SystemResourceModelItem::NetworkType,
-                 Qt::MatchStartsWith | Qt::MatchWrap);
-    if (firstNetworkRow) {
+    if (QStandardItem *firstNetworkRow = findNetworkRow()) {
         const QVariantMap usage = networkUsageList.takeFirst().toMap();
         firstNetworkRow->setData(usage.value(KEY_NETWORK_INTERFACE),
                                  SystemResourceModelItem::SubtitleRole);
@@ -102,9 +99,7 @@ void SystemResourceModelControl::updateNetworkUsage(const QList<QVariant> &netwo
 {
     for (const QVariant &entry : networkUsageList) {
         const QVariantMap usage = entry.toMap();
-        QStandardItem *item =
-            findItem(SystemResourceModelItem::SubtitleRole,
-                     usage.value(KEY_NETWORK_INTERFACE).toString(), Qt::MatchExactly);
+        QStandardItem *item = findInterface(usage.value(KEY_NETWORK_INTERFACE).toString());
         if (!item)
             continue;
         updateUsageList<double>(item, usage.value(KEY_NETWORK_PERCENTAGE).toDouble());
@@ -113,12 +108,23 @@ void SystemResourceModelControl::updateNetworkUsage(const QList<QVariant> &netwo
     }
 }
 
-QStandardItem *SystemResourceModelControl::findItem(int role, const QVariant &value,
-                                                    Qt::MatchFlags flags) const
+QStandardItem *SystemResourceModelControl::findNetworkRow() const
 {
-    const QModelIndexList hits =
-        resourceModel->match(resourceModel->index(0, 0), role, value, 1, flags);
+    const QModelIndexList hits = resourceModel->match(
+        resourceModel->index(0, 0), SystemResourceModelItem::TypeRole,
+        SystemResourceModelItem::NetworkType, 1, Qt::MatchStartsWith | Qt::MatchWrap);
     return hits.isEmpty() ? nullptr : resourceModel->itemFromIndex(hits.first());
+}
+
+QStandardItem *SystemResourceModelControl::findInterface(const QVariant &name) const
+{
+    // Asked for each interface in each pass: the model's own search costs more than the update.
+    for (int row = 0; row < resourceModel->rowCount(); ++row) {
+        QStandardItem *item = resourceModel->item(row);
+        if (item && item->data(SystemResourceModelItem::SubtitleRole) == name)
+            return item;
+    }
+    return nullptr;
 }
 
 QStandardItemModel *SystemResourceModelControl::model() const

@@ -45,7 +45,8 @@ private:
     bool appendRow(SystemResourceModelItem::Type type, const QString &subtitle, int threshold,
                    const char *caller);
     void updateNetworkUsage(const QList<QVariant> &networkUsageList);
-    QStandardItem *findItem(int role, const QVariant &value, Qt::MatchFlags flags) const;
+    QStandardItem *findNetworkRow() const;
+    QStandardItem *findInterface(const QVariant &name) const;
 
     bool networkRowsPending = true;
     int cpuThreshold;
@@ -57,10 +58,14 @@ private:
 /// Moves a row's history on by one sample.
 template <typename T> void updateUsageList(QStandardItem *item, T value)
 {
-    QVariantList history = item->data(SystemResourceModelItem::UsageListRole).toList();
-    history.removeFirst();
-    history.append(QVariant(value));
-    item->setData(history, SystemResourceModelItem::UsageListRole);
+    const QVariantList history = item->data(SystemResourceModelItem::UsageListRole).toList();
+    // Room for one more from the start: the entries are copied once, and none is moved.
+    QVariantList next;
+    next.reserve(history.size() + 1);
+    next.append(history);
+    next.append(QVariant(value));
+    next.removeFirst();
+    item->setData(next, SystemResourceModelItem::UsageListRole);
 }
 
 #endif

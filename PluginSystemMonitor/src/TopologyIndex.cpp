@@ -82,9 +82,19 @@ QModelIndex TopologyIndex::searchModel(const QString &id) const
         .value(0);
 }
 
+qsizetype TopologyIndex::countNodes(const QModelIndex &parent) const
+{
+    const int rows = m_model->rowCount(parent);
+    qsizetype nodes = rows;
+    for (int row = 0; row < rows; ++row)
+        nodes += countNodes(m_model->index(row, 0, parent));
+    return nodes;
+}
+
 void TopologyIndex::build()
 {
     m_isBuilt = true;
+    m_nodes.reserve(countNodes(QModelIndex()));
     addNodes(QModelIndex(), 0, m_model->rowCount() - 1);
 }
 
@@ -116,13 +126,11 @@ bool TopologyIndex::addNodes(const QModelIndex &parent, int first, int last)
             continue;
         const QVariant id = index.data(Topology::IdRole);
         if (isText(id)) {
-            const auto it = m_nodes.find(id.toString());
-            if (it == m_nodes.end()) {
-                m_nodes.insert(id.toString(), {m_model->itemFromIndex(index), 1});
-            } else {
-                ++it->count;
-                allNew = false;
-            }
+            Node &node = m_nodes[id.toString()];
+            if (node.count == 0)
+                node.item = m_model->itemFromIndex(index);
+            allNew &= node.count == 0;
+            ++node.count;
         } else if (id.isValid()) {
             m_hasOtherIds = true;
         }

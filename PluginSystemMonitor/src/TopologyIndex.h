@@ -26,10 +26,11 @@ public:
 private:
     struct Node
     {
-        QStandardItem *item; ///< the first with its id
-        int count;           ///< how many nodes have the id
+        QStandardItem *item = nullptr; ///< the first with its id
+        int count = 0;                 ///< how many nodes have the id
     };
 
+    qsizetype countNodes(const QModelIndex &parent) const;
     void build();
     void discard();
     void beginRemoval();
