@@ -9,7 +9,7 @@ namespace {
 using Bytes = std::optional<unsigned long long>;
 
 // What the line of a name says, or the given figure when there is no such line.
-Bytes bytesOf(const ProcFile &info, QByteArrayView name, Bytes otherwise = std::nullopt)
+Bytes bytesOf(const ProcFile &info, std::string_view name, Bytes otherwise = std::nullopt)
 {
     const auto words = info.wordsAfter(name);
     if (!words)

@@ -3,6 +3,18 @@
 #include <QTemporaryFile>
 #include <QTest>
 
+namespace {
+
+QByteArrayList copied(const ProcFile::Words &words)
+{
+    QByteArrayList copies;
+    for (const std::string_view word : words)
+        copies.append(QByteArray::fromStdString(std::string(word)));
+    return copies;
+}
+
+} // namespace
+
 class tst_ProcFile_Linux : public QObject
 {
     Q_OBJECT
@@ -28,6 +40,13 @@ void tst_ProcFile_Linux::lineIsFoundByItsFirstWord_data()
     QTest::newRow("several blanks")
         << QByteArray("cpu  1\t 2 ") << true << QByteArrayList{"1", "2"};
     QTest::newRow("first of two") << QByteArray("cpu 1\ncpu 2\n") << true << QByteArrayList{"1"};
+    QTest::newRow("many words") << "cpu" + QByteArray(" 7").repeated(100) << true
+                                << QByteArrayList(100, "7");
+    QTest::newRow("behind more than fits the buffer")
+        << QByteArray("x 3\n").repeated(30'000) + "cpu 1 2\n"
+        << true << QByteArrayList{"1", "2"};
+    QTest::newRow("on a line longer than the buffer")
+        << "x " + QByteArray(100'000, '3') + "\ncpu 1 2" << true << QByteArrayList{"1", "2"};
     QTest::newRow("no words") << QByteArray("cpu\n") << true << none;
     QTest::newRow("longer name") << QByteArray("cpu0 1\n") << false << none;
     QTest::newRow("shorter name") << QByteArray("cp 1\n") << false << none;
@@ -46,9 +65,10 @@ void tst_ProcFile_Linux::lineIsFoundByItsFirstWord()
     file.write(content);
     file.close();
 
-    const auto actual = ProcFile(file.fileName()).wordsAfter("cpu");
+    const ProcFile procFile(file.fileName());
+    const auto actual = procFile.wordsAfter("cpu");
     QCOMPARE(actual.has_value(), found);
-    QCOMPARE(actual.value_or(QByteArrayList()), words);
+    QCOMPARE(copied(actual.value_or(ProcFile::Words())), words);
 }
 
 void tst_ProcFile_Linux::unreadableFileHasNoLines()
@@ -79,7 +99,7 @@ void tst_ProcFile_Linux::numberIsDecimalWithoutSign()
 {
     QFETCH(const QByteArray, word);
     QFETCH(const bool, isNumber);
-    const auto number = ProcFile::number(word);
+    const auto number = ProcFile::number(word.toStdString());
     QCOMPARE(number.has_value(), isNumber);
     QTEST(quint64(number.value_or(0)), "value");
 }
