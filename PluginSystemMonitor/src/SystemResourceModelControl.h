@@ -42,12 +42,14 @@ public:
     QStandardItemModel *model() const;
 
 private:
-    bool appendRow(SystemResourceModelItem::Type type, const QString &subtitle, int threshold,
-                   const char *caller);
+    /// A new row, or null when memory is short, which is traced.
+    QStandardItem *createRow(SystemResourceModelItem::Type type, const QString &subtitle,
+                             int threshold, const char *caller) const;
     void updateNetworkUsage(const QList<QVariant> &networkUsageList);
     QStandardItem *findItem(int role, const QVariant &value, Qt::MatchFlags flags) const;
 
     bool networkRowsPending = true;
+    int layout = 0; ///< counts the new starts, each of which voids what was under way
     int cpuThreshold;
     int memoryThreshold;
     int networkThreshold;
@@ -58,7 +60,9 @@ private:
 template <typename T> void updateUsageList(QStandardItem *item, T value)
 {
     QVariantList history = item->data(SystemResourceModelItem::UsageListRole).toList();
-    history.removeFirst();
+    // QML can write to the rows, too.
+    if (!history.isEmpty())
+        history.removeFirst();
     history.append(QVariant(value));
     item->setData(history, SystemResourceModelItem::UsageListRole);
 }
