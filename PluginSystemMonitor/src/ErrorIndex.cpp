@@ -37,7 +37,10 @@ bool mayHoldIds(const QList<int> &roles)
 
 void ErrorIndex::setModel(QStandardItemModel *model)
 {
+    if (m_model)
+        m_model->disconnect(this);
     m_model = model;
+    m_removals = 0;
     using Model = QAbstractItemModel;
     // The rows of the list have no children; what lies below them is of no concern.
     connect(model, &Model::rowsInserted, this,
@@ -82,6 +85,12 @@ void ErrorIndex::insert(const QString &key, QStandardItem *item)
         m_itemByKey.erase(old);
     it->key = key;
     m_itemByKey.insert(key, item);
+}
+
+void ErrorIndex::announce(const QString &key, const QStandardItem *item)
+{
+    m_announcedKey = key;
+    m_announcedItem = item;
 }
 
 void ErrorIndex::remove(const QString &key)
@@ -130,6 +139,12 @@ QMap<QString, int> ErrorIndex::countsByStation() const
     return counts;
 }
 
+bool ErrorIndex::contains(const QStandardItem *item, quint64 age) const
+{
+    const auto it = m_rows.constFind(item);
+    return it != m_rows.cend() && it->age <= age;
+}
+
 QStandardItem *ErrorIndex::itemOfRow(int row) const
 {
     // A row that was inserted bare gets its item here.
@@ -139,7 +154,11 @@ QStandardItem *ErrorIndex::itemOfRow(int row) const
 void ErrorIndex::track(QStandardItem *item)
 {
     file(item, {QString(), item->data(SystemErrorModel::StationIDRole).toString(),
-                item->data(SystemErrorModel::DeviceIDRole).toString()});
+                item->data(SystemErrorModel::DeviceIDRole).toString(), ++m_newestAge});
+    if (item == m_announcedItem) {
+        m_announcedItem = nullptr;
+        insert(m_announcedKey, item);
+    }
 }
 
 void ErrorIndex::untrack(const QStandardItem *item)
@@ -197,7 +216,7 @@ void ErrorIndex::refileRows(int first, int last)
         const Row filed = it.value();
         unfile(item, filed);
         file(item, {filed.key, item->data(SystemErrorModel::StationIDRole).toString(),
-                    item->data(SystemErrorModel::DeviceIDRole).toString()});
+                    item->data(SystemErrorModel::DeviceIDRole).toString(), filed.age});
     }
 }
 
@@ -223,9 +242,12 @@ void ErrorIndex::trackAnew()
         if (!item)
             continue;
         track(item);
-        const QString key = oldRows.value(item).key;
-        if (!wasBare && oldItemByKey.value(key) == item)
-            insert(key, item);
+        const auto old = oldRows.constFind(item);
+        if (wasBare || old == oldRows.cend())
+            continue;
+        m_rows[item].age = old->age;
+        if (oldItemByKey.value(old->key) == item)
+            insert(old->key, item);
     }
 }
 

@@ -31,6 +31,9 @@ public:
     /// the row had. An item that is no row of the model, which it may have left by now, files
     /// nothing.
     void insert(const QString &key, QStandardItem *item);
+    /// Files an item under its key as soon as it becomes a row, before others hear of it. One item
+    /// at a time; it is not looked into.
+    void announce(const QString &key, const QStandardItem *item);
     /// Forgets a key; its row stays where it is.
     void remove(const QString &key);
     /// The row filed under a key, or an invalid index.
@@ -45,8 +48,13 @@ public:
     /// How many rows each station has, in the order of the station ids.
     QMap<QString, int> countsByStation() const;
 
-    /// Whether an item is a row of the model; it may be deleted if not.
-    bool contains(const QStandardItem *item) const { return m_rows.contains(item); }
+    /// The age of the newest row; rows that come later have higher ages.
+    quint64 newestAge() const { return m_newestAge; }
+    /// Whether an item is a row of the model that came no later than the row of this age. If not,
+    /// it may be deleted, or stand where a deleted one stood.
+    bool contains(const QStandardItem *item, quint64 age) const;
+    /// Whether rows are announced to go and still there.
+    bool isRemoving() const { return m_removals > 0; }
 
 private:
     /// What an item is filed under.
@@ -55,6 +63,7 @@ private:
         QString key; ///< empty for a row that was never given one
         QString stationID;
         QString deviceID;
+        quint64 age = 0;
     };
 
     QStandardItem *itemOfRow(int row) const;
@@ -74,6 +83,9 @@ private:
     QHash<QString, QStandardItem *> m_itemByKey;
     QMap<QString, QSet<QStandardItem *>> m_itemsByStation;
     std::set<std::pair<QString, QStandardItem *>> m_itemsByDevice;
+    QString m_announcedKey;
+    const QStandardItem *m_announcedItem = nullptr;
+    quint64 m_newestAge = 0;
     int m_removals = 0;          ///< announced and not yet done
     bool m_tracksDoomed = false; ///< rows were tracked that a removal announced
 };
