@@ -37,7 +37,10 @@ bool mayHoldIds(const QList<int> &roles)
 
 void ErrorIndex::setModel(QStandardItemModel *model)
 {
+    if (m_model)
+        m_model->disconnect(this);
     m_model = model;
+    m_removals = 0;
     using Model = QAbstractItemModel;
     // The rows of the list have no children; what lies below them is of no concern.
     connect(model, &Model::rowsInserted, this,
@@ -82,6 +85,12 @@ void ErrorIndex::insert(const QString &key, QStandardItem *item)
     row.key = key;
     if (m_itemByKey.insert_or_assign(key, item).second)
         m_usageKeys.add(key);
+}
+
+void ErrorIndex::announce(const QString &key, const QStandardItem *item)
+{
+    m_announcedKey = key;
+    m_announcedItem = item;
 }
 
 void ErrorIndex::remove(const QString &key)
@@ -161,6 +170,12 @@ void ErrorIndex::appendItems(QList<QStandardItem *> &items, const Group &group, 
         items.append(row->item);
 }
 
+bool ErrorIndex::contains(const QStandardItem *item, quint64 age) const
+{
+    const auto it = m_rows.find(item);
+    return it != m_rows.end() && it->second.age <= age;
+}
+
 QStandardItem *ErrorIndex::itemOfRow(int row) const
 {
     // A row that was inserted bare gets its item here.
@@ -175,6 +190,11 @@ void ErrorIndex::track(QStandardItem *item)
         unfile(row);
     row.item = item;
     file(row);
+    row.age = ++m_newestAge;
+    if (item == m_announcedItem) {
+        m_announcedItem = nullptr;
+        insert(m_announcedKey, item);
+    }
 }
 
 void ErrorIndex::untrack(const QStandardItem *item)
@@ -297,6 +317,7 @@ void ErrorIndex::trackAnew()
         const auto old = oldRows.find(item);
         if (wasBare || old == oldRows.end())
             continue;
+        m_rows[item].age = old->second.age;
         const QString &key = old->second.key;
         const auto filed = oldItemByKey.find(key);
         if (filed != oldItemByKey.end() && filed->second == item)

@@ -32,6 +32,9 @@ public:
     /// the row had. An item that is no row of the model, which it may have left by now, files
     /// nothing.
     void insert(const QString &key, QStandardItem *item);
+    /// Files an item under its key as soon as it becomes a row, before others hear of it. One item
+    /// at a time; it is not looked into.
+    void announce(const QString &key, const QStandardItem *item);
     /// Forgets a key; its row stays where it is.
     void remove(const QString &key);
     /// The row filed under a key, or an invalid index.
@@ -53,8 +56,13 @@ public:
     /// How many rows each station has, in the order of the station ids.
     QMap<QString, int> countsByStation() const;
 
-    /// Whether an item is a row of the model; it may be deleted if not.
-    bool contains(const QStandardItem *item) const { return m_rows.count(item) > 0; }
+    /// The age of the newest row; rows that come later have higher ages.
+    quint64 newestAge() const { return m_newestAge; }
+    /// Whether an item is a row of the model that came no later than the row of this age. If not,
+    /// it may be deleted, or stand where a deleted one stood.
+    bool contains(const QStandardItem *item, quint64 age) const;
+    /// Whether rows are announced to go and still there.
+    bool isRemoving() const { return m_removals > 0; }
 
 private:
     struct Row;
@@ -78,6 +86,7 @@ private:
     {
         QStandardItem *item = nullptr;
         QString key; ///< empty for a row that was never given one
+        quint64 age = 0;
         Stations::value_type *station = nullptr;
         Devices::value_type *device = nullptr;
         Links sameStation;
@@ -118,6 +127,9 @@ private:
     Stations::value_type *m_lastStation = nullptr; ///< under which a row was filed last
     Devices m_devices;
     bool m_filesDevices = false;
+    QString m_announcedKey;
+    const QStandardItem *m_announcedItem = nullptr;
+    quint64 m_newestAge = 0;
     int m_removals = 0;          ///< announced and not yet done
     bool m_tracksDoomed = false; ///< rows were tracked that a removal announced
 };

@@ -66,10 +66,10 @@ bool PluginSystemMonitor::Init(QQmlContext *)
 
     stationErrorNumberTimer.setSingleShot(true);
     connect(&stationErrorNumberTimer, &QTimer::timeout, this,
-            &PluginSystemMonitor::updateStationErrorNumber);
+            &PluginSystemMonitor::updateStationErrorNumber, Qt::UniqueConnection);
     initNodeStatusTimer.setSingleShot(true);
-    connect(&initNodeStatusTimer, &QTimer::timeout, this,
-            &PluginSystemMonitor::initNodeStatusError);
+    connect(&initNodeStatusTimer, &QTimer::timeout, this, &PluginSystemMonitor::initNodeStatusError,
+            Qt::UniqueConnection);
 
     return createErrorListModel();
 }

@@ -9,6 +9,7 @@
 #include <QList>
 #include <QMap>
 #include <QModelIndex>
+#include <QPersistentModelIndex>
 #include <QPointer>
 #include <QSharedPointer>
 #include <QStandardItemModel>
@@ -196,7 +197,7 @@ protected:
     /// Whether the topology model's node type is the one of stations.
     bool isStationInTopologyModel(int nodeType) const;
 
-    // The error list. The operations need the model, that is a successful Init().
+    // The error list. Without the model, that is before a successful Init(), nothing is listed.
 
     /// Creates the model, and has its changes recounted after a while. False, and no model, when
     /// memory is short.
@@ -257,7 +258,8 @@ protected:
     QPointer<QStandardItemModel> topologyModel; ///< the topology plug-in's, not owned
     mutable TopologyIndex topologyIndex;        ///< finds nodes of that model by id
     QSharedPointer<SystemResourceModelControl> resourceModelControl;
-    ErrorIndex indexMap; ///< finds rows by unique key
+    ErrorIndex indexMap;                            ///< finds rows by unique key
+    QList<QPersistentModelIndex> postponedRemovals; ///< rows that go when a removal is done
     /// The record of the error last raised, kept for its nodes.
     QMap<QString, QVariant> errorRecord{
         {QStringLiteral("deviceID"), {}},  {QStringLiteral("errorCategory"), {}},
@@ -296,6 +298,8 @@ private:
                      const QString &stationID, const QString &deviceID,
                      const QString &triggerDeviceName);
     QModelIndexList errorsOfType(ErrorType type) const;
+    /// Removes the rows whose removal was ordered while another one was under way.
+    void removePostponedRows();
     /// Removes rows of the list, in this order.
     void removeRows(const QList<QStandardItem *> &items);
     QString storageLabel(const QString &stationID, const QString &groupName) const;

@@ -113,14 +113,40 @@ QObject *PluginSystemMonitor::getSystemErrorSortFilterModel(QObject *parent)
 
 void PluginSystemMonitor::appendSystemErrorModel(const QString &uniqueId, QStandardItem *item)
 {
+    if (!errorModel) {
+        delete item;
+        return;
+    }
+    // Whoever hears of the row may look for it, or remove it: it has its key by then.
+    indexMap.announce(uniqueId, item);
     errorModel->appendRow(item);
-    indexMap.insert(uniqueId, item);
+    indexMap.announce(QString(), nullptr);
 }
 
 void PluginSystemMonitor::RemoveSystemErrorModelRow(const QModelIndex &index)
 {
+    if (!errorModel)
+        return;
     indexMap.remove(index.data(SystemErrorModel::UniqueIDRole).toString());
+    // A view tells of a removal while the list has only announced it. The rows must keep their
+    // numbers until it is done.
+    if (indexMap.isRemoving()) {
+        postponedRemovals.append(index);
+        QMetaObject::invokeMethod(this, &PluginSystemMonitor::removePostponedRows,
+                                  Qt::QueuedConnection);
+        return;
+    }
     errorModel->removeRows(index.row(), 1, index.parent());
+    removePostponedRows();
+}
+
+void PluginSystemMonitor::removePostponedRows()
+{
+    while (!postponedRemovals.isEmpty()) {
+        const QPersistentModelIndex row = postponedRemovals.takeFirst();
+        if (row.isValid())
+            errorModel->removeRows(row.row(), 1, row.parent());
+    }
 }
 
 void PluginSystemMonitor::removeErrorFromModel(const QModelIndex &index)
@@ -130,6 +156,8 @@ void PluginSystemMonitor::removeErrorFromModel(const QModelIndex &index)
 
 void PluginSystemMonitor::removeErrorFromModel(const QString &value, int role, Qt::MatchFlags flags)
 {
+    if (!errorModel)
+        return;
     const QModelIndexList hits = errorModel->match(errorModel->index(0, 0), role, value, -1, flags);
     const QList<QPersistentModelIndex> rows(hits.cbegin(), hits.cend());
     for (const QPersistentModelIndex &row : rows) {
@@ -140,6 +168,8 @@ void PluginSystemMonitor::removeErrorFromModel(const QString &value, int role, Q
 
 void PluginSystemMonitor::clearSystemErrorModel()
 {
+    if (!errorModel)
+        return;
     // From the last row, so that the numbers of the rows still to go stay what they are.
     for (int row = errorModel->rowCount() - 1; row >= 0; --row)
         RemoveSystemErrorModelRow(errorModel->index(row, 0));
@@ -224,9 +254,11 @@ void PluginSystemMonitor::removeStationFromErrorModel(const QString &stationID)
 
 void PluginSystemMonitor::removeRows(const QList<QStandardItem *> &items)
 {
+    const quint64 newestAge = indexMap.newestAge();
     for (QStandardItem *item : items) {
-        // Whoever watches the list may have removed some of them meanwhile.
-        if (indexMap.contains(item))
+        // Whoever watches the list may have removed some of them meanwhile, and raised others that
+        // stand in their place in memory.
+        if (indexMap.contains(item, newestAge))
             RemoveSystemErrorModelRow(errorModel->indexFromItem(item));
     }
 }

@@ -41,7 +41,7 @@ void PluginSystemMonitor::handleSystemResChgEvent(const QVariant &data, const QS
                             usage.value(KEY_NETWORK_INTERFACE).toString());
     }
 
-    if (stationId == focusStationId) {
+    if (stationId == focusStationId && resourceModelControl) {
         resourceModelControl->updateUsage(cpu, memory, networkList);
         Q_EMIT systemResourceChanged(cpu, memory, networkList);
     }
@@ -71,7 +71,8 @@ void PluginSystemMonitor::setFocusStationResource(const QString &stationId)
     if (stationId == focusStationId)
         return;
     focusStationId = stationId;
-    resourceModelControl->initialModelData();
+    if (resourceModelControl)
+        resourceModelControl->initialModelData();
     Q_EMIT focusStationResourceChanged(stationId);
 }
 

@@ -120,19 +120,28 @@ void PluginSystemMonitor::initNodeStatusError()
 
 void PluginSystemMonitor::recursiveAppendStatusError(const QModelIndex &parent)
 {
-    for (int row = 0; row < topologyModel->rowCount(parent); ++row) {
-        const QModelIndex node = topologyModel->index(row, 0, parent);
+    // Whoever hears of an error, or is to reload a storage, may change the topology or end it.
+    const QPointer<QStandardItemModel> walkedModel = topologyModel;
+    const QPersistentModelIndex walkedNode(parent);
+    const auto isThere = [&] {
+        return walkedModel && walkedModel == topologyModel
+               && walkedNode.isValid() == parent.isValid();
+    };
+    for (int row = 0; isThere() && row < walkedModel->rowCount(walkedNode); ++row) {
+        const QModelIndex node = walkedModel->index(row, 0, walkedNode);
         const int type = node.data(Topology::NodeTypeRole).toInt();
         const bool connected = node.data(Topology::ConnectedRole).toBool();
         const QString nodeID = node.data(Topology::NodeIdRole).toString();
         // The name is for an error to be raised; a connected node raises none.
         const QString triggerDeviceName = connected ? QString() : nameInWalk(node, type, nodeID);
+        const bool isStation = isStationInTopologyModel(type);
+        const QPersistentModelIndex station = isStation ? node : QModelIndex();
         monitorNodeStatusForInit(type, nodeID, connected, triggerDeviceName);
 
-        if (isStationInTopologyModel(type)) {
+        if (isStation)
             reloadStorageUsage(nodeID);
-            recursiveAppendStatusError(node);
-        }
+        if (station.isValid())
+            recursiveAppendStatusError(station);
     }
 }
 

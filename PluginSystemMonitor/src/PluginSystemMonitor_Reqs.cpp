@@ -44,6 +44,8 @@ void PluginSystemMonitor::handleSupportResponse(void *context, const QString &re
 
 QModelIndexList PluginSystemMonitor::errorsOfType(ErrorType type) const
 {
+    if (!errorModel)
+        return {};
     return errorModel->match(errorModel->index(0, 0), SystemErrorModel::ErrorTypeRole,
                              static_cast<int>(type), -1, Qt::MatchExactly | Qt::MatchRecursive);
 }

@@ -3,6 +3,9 @@
 #include "PluginSystemMonitorCommon.h"
 #include "PluginSystemMonitor_Log.h"
 
+#include <iterator>
+#include <utility>
+
 using namespace PluginSystemMonitorCommon;
 
 SystemResourceModelControl::SystemResourceModelControl(int cpuLimit, int memoryLimit,
@@ -26,49 +29,66 @@ SystemResourceModelControl::SystemResourceModelControl(int cpuLimit, int memoryL
 
 bool SystemResourceModelControl::initialModelData()
 {
+    // Whoever is told of the reset may start over as well, and have the last word.
+    const int ownLayout = ++layout;
     resourceModel->clear();
+    if (layout != ownLayout && resourceModel->rowCount() > 0)
+        return true;
 
-    const char *const caller = "initialModelData";
-    if (!appendRow(SystemResourceModelItem::CpuType, QString(), cpuThreshold, caller)
-        || !appendRow(SystemResourceModelItem::MemoryType, QString(), memoryThreshold, caller)
-        || !appendRow(SystemResourceModelItem::NetworkType, QString(), networkThreshold, caller))
-        return false;
-
-    networkRowsPending = true;
-    return true;
+    const std::pair<SystemResourceModelItem::Type, int> kinds[]{
+        {SystemResourceModelItem::CpuType, cpuThreshold},
+        {SystemResourceModelItem::MemoryType, memoryThreshold},
+        {SystemResourceModelItem::NetworkType, networkThreshold},
+    };
+    QList<QStandardItem *> rows;
+    for (const auto &[type, threshold] : kinds) {
+        QStandardItem *row = createRow(type, QString(), threshold, "initialModelData");
+        if (!row)
+            break;
+        rows.append(row);
+    }
+    const bool isComplete = rows.size() == std::ssize(kinds);
+    if (isComplete)
+        networkRowsPending = true;
+    // All at once, so that nobody meets a part of them.
+    resourceModel->setColumnCount(1);
+    resourceModel->invisibleRootItem()->appendRows(rows);
+    return isComplete;
 }
 
-bool SystemResourceModelControl::appendRow(SystemResourceModelItem::Type type,
-                                           const QString &subtitle, int threshold,
-                                           const char *caller)
+QStandardItem *SystemResourceModelControl::createRow(SystemResourceModelItem::Type type,
+                                                     const QString &subtitle, int threshold,
+                                                     const char *caller) const
 {
     auto *item = SystemResourceModelItem::create(type, getTitle(type), subtitle, threshold);
-    if (!item) {
-        if (isTraced(TraceLog::ErrorLevel))
-            LocalTraceOutFuncPluginSystemMonitor("%s, call SystemResourceModelItem create failed",
-                                                 caller);
-        return false;
-    }
-    resourceModel->appendRow(item);
-    return true;
+    if (!item && isTraced(TraceLog::ErrorLevel))
+        LocalTraceOutFuncPluginSystemMonitor("%s, call SystemResourceModelItem create failed",
+                                             caller);
+    return item;
 }
 
 void SystemResourceModelControl::updateNetworkModalData(QList<QVariant> networkUsageList)
 {
     if (!networkRowsPending || networkUsageList.isEmpty())
         return;
+    // First, since whoever is told of the rows may send the next sample at once.
+    networkRowsPending = false;
 
+    const int ownLayout = layout;
     if (QStandardItem *firstNetworkRow = findNetworkRow()) {
         const QVariantMap usage = networkUsageList.takeFirst().toMap();
         firstNetworkRow->setData(usage.value(KEY_NETWORK_INTERFACE),
                                  SystemResourceModelItem::SubtitleRole);
     }
     for (const QVariant &entry : std::as_const(networkUsageList)) {
-        appendRow(SystemResourceModelItem::NetworkType,
-                  entry.toMap().value(KEY_NETWORK_INTERFACE).toString(), networkThreshold,
-                  "updateNetworkModalData");
+        if (layout != ownLayout)
+            return;
+        QStandardItem *row = createRow(SystemResourceModelItem::NetworkType,
+                                       entry.toMap().value(KEY_NETWORK_INTERFACE).toString(),
+                                       networkThreshold, "updateNetworkModalData");
+        if (row)
+            resourceModel->appendRow(row);
     }
-    networkRowsPending = false;
 }
 
 void SystemResourceModelControl::updateUsage(int cpuPercentage, int memoryPercentage,
@@ -76,10 +96,12 @@ void SystemResourceModelControl::updateUsage(int cpuPercentage, int memoryPercen
 {
     if (resourceModel->rowCount() == 0)
         initialModelData();
+    const int ownLayout = layout;
     updateNetworkModalData(networkUsageList);
 
-    for (int row = 0; row < resourceModel->rowCount(); ++row) {
-        QStandardItem *item = resourceModel->item(row);
+    for (int row = 0; layout == ownLayout && row < resourceModel->rowCount(); ++row) {
+        // A row that others inserted bare gets its item here.
+        QStandardItem *item = resourceModel->itemFromIndex(resourceModel->index(row, 0));
         switch (item->data(SystemResourceModelItem::TypeRole).toInt()) {
         case SystemResourceModelItem::CpuType:
             updateUsageList<int>(item, cpuPercentage);
@@ -97,14 +119,19 @@ void SystemResourceModelControl::updateUsage(int cpuPercentage, int memoryPercen
 
 void SystemResourceModelControl::updateNetworkUsage(const QList<QVariant> &networkUsageList)
 {
+    const int ownLayout = layout;
     for (const QVariant &entry : networkUsageList) {
+        if (layout != ownLayout)
+            return;
         const QVariantMap usage = entry.toMap();
         QStandardItem *item = findInterface(usage.value(KEY_NETWORK_INTERFACE).toString());
         if (!item)
             continue;
+        // Whoever is told of the first value may remove the row.
+        const QPersistentModelIndex row = item->index();
         updateUsageList<double>(item, usage.value(KEY_NETWORK_PERCENTAGE).toDouble());
-        item->setData(usage.value(KEY_NETWORK_BANDWIDTH).toDouble(),
-                      SystemResourceModelItem::BandwidthRole);
+        resourceModel->setData(row, usage.value(KEY_NETWORK_BANDWIDTH).toDouble(),
+                               SystemResourceModelItem::BandwidthRole);
     }
 }
 

@@ -42,13 +42,15 @@ public:
     QStandardItemModel *model() const;
 
 private:
-    bool appendRow(SystemResourceModelItem::Type type, const QString &subtitle, int threshold,
-                   const char *caller);
+    /// A new row, or null when memory is short, which is traced.
+    QStandardItem *createRow(SystemResourceModelItem::Type type, const QString &subtitle,
+                             int threshold, const char *caller) const;
     void updateNetworkUsage(const QList<QVariant> &networkUsageList);
     QStandardItem *findNetworkRow() const;
     QStandardItem *findInterface(const QVariant &name) const;
 
     bool networkRowsPending = true;
+    int layout = 0; ///< counts the new starts, each of which voids what was under way
     int cpuThreshold;
     int memoryThreshold;
     int networkThreshold;
@@ -64,7 +66,9 @@ template <typename T> void updateUsageList(QStandardItem *item, T value)
     next.reserve(history.size() + 1);
     next.append(history);
     next.append(QVariant(value));
-    next.removeFirst();
+    // QML can write to the rows, too.
+    if (!history.isEmpty())
+        next.removeFirst();
     item->setData(next, SystemResourceModelItem::UsageListRole);
 }
 

@@ -28,15 +28,16 @@ void TopologyIndex::setModel(QStandardItemModel *model)
     if (m_model)
         m_model->disconnect(this);
     m_model = model;
-    m_removals = 0;
+    m_changes = 0;
     discard();
     if (!model)
         return;
 
     using Model = QAbstractItemModel;
+    connect(model, &Model::rowsAboutToBeInserted, this, &TopologyIndex::beginChange);
     connect(model, &Model::rowsInserted, this, &TopologyIndex::nodesInserted);
     connect(model, &Model::rowsAboutToBeRemoved, this, &TopologyIndex::nodesAboutToBeRemoved);
-    connect(model, &Model::rowsRemoved, this, &TopologyIndex::endRemoval);
+    connect(model, &Model::rowsRemoved, this, &TopologyIndex::endChange);
     connect(model, &Model::dataChanged, this,
             [this](const QModelIndex &from, const QModelIndex &to, const QList<int> &roles) {
                 if (roles.isEmpty() || roles.contains(Topology::IdRole))
@@ -44,12 +45,12 @@ void TopologyIndex::setModel(QStandardItemModel *model)
             });
 
     // The order of the nodes, or all of them, may be others after these.
-    connect(model, &Model::modelAboutToBeReset, this, &TopologyIndex::beginRemoval);
+    connect(model, &Model::modelAboutToBeReset, this, &TopologyIndex::beginChange);
     connect(model, &Model::modelAboutToBeReset, this, &TopologyIndex::discard);
-    connect(model, &Model::modelReset, this, &TopologyIndex::endRemoval);
-    connect(model, &Model::columnsAboutToBeRemoved, this, &TopologyIndex::beginRemoval);
+    connect(model, &Model::modelReset, this, &TopologyIndex::endChange);
+    connect(model, &Model::columnsAboutToBeRemoved, this, &TopologyIndex::beginChange);
     connect(model, &Model::columnsAboutToBeRemoved, this, &TopologyIndex::discard);
-    connect(model, &Model::columnsRemoved, this, &TopologyIndex::endRemoval);
+    connect(model, &Model::columnsRemoved, this, &TopologyIndex::endChange);
     connect(model, &Model::columnsInserted, this, &TopologyIndex::discard);
     connect(model, &Model::columnsMoved, this, &TopologyIndex::discard);
     connect(model, &Model::rowsMoved, this, &TopologyIndex::discard);
@@ -62,8 +63,9 @@ QModelIndex TopologyIndex::find(const QString &id)
 {
     if (!m_model)
         return QModelIndex();
-    // Who asks now may still find what is about to go, and the table must not remember it.
-    if (m_removals > 0)
+    // Who asks now may still find what is about to go, and the table must not remember it; or find
+    // already what has come, of which the table has not heard.
+    if (m_changes > 0)
         return searchModel(id);
     if (!m_isBuilt)
         build();
@@ -105,14 +107,14 @@ void TopologyIndex::discard()
     m_nodes.clear();
 }
 
-void TopologyIndex::beginRemoval()
+void TopologyIndex::beginChange()
 {
-    ++m_removals;
+    ++m_changes;
 }
 
-void TopologyIndex::endRemoval()
+void TopologyIndex::endChange()
 {
-    m_removals = qMax(0, m_removals - 1);
+    m_changes = qMax(0, m_changes - 1);
 }
 
 /// Adds the nodes and what is below them, in the order of the search. Returns whether every id was
@@ -164,13 +166,14 @@ bool TopologyIndex::removeNodes(const QModelIndex &parent, int first, int last)
 
 void TopologyIndex::nodesInserted(const QModelIndex &parent, int first, int last)
 {
+    endChange();
     if (m_isBuilt && isSearched(parent) && !addNodes(parent, first, last))
         discard();
 }
 
 void TopologyIndex::nodesAboutToBeRemoved(const QModelIndex &parent, int first, int last)
 {
-    beginRemoval();
+    beginChange();
     if (m_isBuilt && isSearched(parent) && !removeNodes(parent, first, last))
         discard();
 }

@@ -33,8 +33,8 @@ private:
     qsizetype countNodes(const QModelIndex &parent) const;
     void build();
     void discard();
-    void beginRemoval();
-    void endRemoval();
+    void beginChange();
+    void endChange();
     bool addNodes(const QModelIndex &parent, int first, int last);
     bool removeNodes(const QModelIndex &parent, int first, int last);
     void nodesInserted(const QModelIndex &parent, int first, int last);
@@ -46,7 +46,7 @@ private:
     QHash<QString, Node> m_nodes;
     bool m_isBuilt = false;
     bool m_hasOtherIds = false; ///< some id is no text, so that the table cannot tell
-    int m_removals = 0;         ///< announced and not yet done
+    int m_changes = 0;          ///< insertions and removals, announced and not yet done
 };
 
 #endif

@@ -41,6 +41,7 @@ public:
     using PluginSystemMonitor::cpuThreshold;
     using PluginSystemMonitor::errorModel;
     using PluginSystemMonitor::focusStationId;
+    using PluginSystemMonitor::indexMap;
     using PluginSystemMonitor::initNodeStatusTimer;
     using PluginSystemMonitor::memoryThreshold;
     using PluginSystemMonitor::networkThreshold;

@@ -94,6 +94,11 @@ struct Errors
         });
     }
 
+    bool isListed(const QStandardItem *item) const
+    {
+        return index.contains(item, index.newestAge());
+    }
+
     /// What the index answers otherwise than a scan.
     QStringList differences();
 
@@ -142,7 +147,7 @@ QStringList Errors::differences()
     QMap<QString, int> counts;
     for (const QStandardItem *item : scan([](const auto &) { return true; })) {
         ++counts[stationOf(item->index())];
-        expect(index.contains(item), "row", QString::number(item->row()));
+        expect(isListed(item), "row", QString::number(item->row()));
     }
     expect(index.countsByStation() == counts, "counts", QString());
     return found;
@@ -279,6 +284,8 @@ private Q_SLOTS:
     void olderRowIsNotFoundWhenTheNewerGoes();
     void removedKeyLeavesItsRow();
     void itemThatIsNoRowFilesNothing();
+    void announcedItemHasItsKeyAtOnce();
+    void announcementHoldsForItsItemAlone();
     void itemHasOneKey();
     void takenRowLosesItsKey();
     void prefixFindsEveryStationThatBeginsWithIt();
@@ -288,6 +295,7 @@ private Q_SLOTS:
     void rowsOfADeviceAreFoundWhenFirstAskedForLate();
     void rowsOfEveryStationAreCounted();
     void rowsAreContainedUntilTheyGo();
+    void rowsThatCameLaterAreTold();
     void rowsThatWereThereBeforeAreFound();
     void changeIsFollowed_data();
     void changeIsFollowed();
@@ -344,7 +352,7 @@ void tst_ErrorIndex::removedKeyLeavesItsRow()
     QVERIFY(!errors.index.find(u"k2"_s).isValid());
     QCOMPARE(errors.model.rowCount(), 6);
     QCOMPARE(errors.index.rowsOfStation(u"st2"_s), Items{errors.model.item(1)});
-    QVERIFY(errors.index.contains(errors.model.item(1)));
+    QVERIFY(errors.isListed(errors.model.item(1)));
 }
 
 void tst_ErrorIndex::itemThatIsNoRowFilesNothing()
@@ -353,7 +361,35 @@ void tst_ErrorIndex::itemThatIsNoRowFilesNothing()
     QStandardItem item;
     errors.index.insert(u"k1"_s, &item);
     QVERIFY(!errors.index.find(u"k1"_s).isValid());
-    QVERIFY(!errors.index.contains(&item));
+    QVERIFY(!errors.isListed(&item));
+}
+
+void tst_ErrorIndex::announcedItemHasItsKeyAtOnce()
+{
+    Errors errors;
+    QStandardItem *item = error(u"st1"_s);
+    QModelIndex found;
+    connect(&errors.model, &QAbstractItemModel::rowsInserted, this,
+            [&] { found = errors.index.find(u"k1"_s); });
+    errors.index.announce(u"k1"_s, item);
+    QVERIFY(!errors.index.find(u"k1"_s).isValid());
+    errors.model.appendRow(item);
+    QCOMPARE(found, errors.model.index(0, 0));
+}
+
+void tst_ErrorIndex::announcementHoldsForItsItemAlone()
+{
+    Errors errors;
+    QStandardItem *item = error(u"st1"_s);
+    errors.index.announce(u"k1"_s, item);
+    errors.model.appendRow(error(u"st2"_s));
+    QVERIFY(!errors.index.find(u"k1"_s).isValid());
+    errors.model.appendRow(item);
+    QCOMPARE(errors.index.find(u"k1"_s), errors.model.index(1, 0));
+
+    const QList<QStandardItem *> row = errors.model.takeRow(1);
+    errors.model.appendRow(row);
+    QVERIFY(!errors.index.find(u"k1"_s).isValid());
 }
 
 void tst_ErrorIndex::itemHasOneKey()
@@ -370,9 +406,9 @@ void tst_ErrorIndex::takenRowLosesItsKey()
     Errors errors;
     fill(errors);
     const Items row = errors.model.takeRow(1);
-    QVERIFY(!errors.index.contains(row.first()));
+    QVERIFY(!errors.isListed(row.first()));
     errors.model.appendRow(row);
-    QVERIFY(errors.index.contains(row.first()));
+    QVERIFY(errors.isListed(row.first()));
     QVERIFY(!errors.index.find(u"k2"_s).isValid());
     QCOMPARE(errors.index.rowsOfStation(u"st2"_s), row);
 }
@@ -451,10 +487,26 @@ void tst_ErrorIndex::rowsAreContainedUntilTheyGo()
     Errors errors;
     fill(errors);
     const QStandardItem *item = errors.model.item(2);
-    QVERIFY(errors.index.contains(item));
+    QVERIFY(errors.isListed(item));
     errors.model.removeRow(2);
-    QVERIFY(!errors.index.contains(item));
-    QVERIFY(!errors.index.contains(nullptr));
+    QVERIFY(!errors.isListed(item));
+    QVERIFY(!errors.isListed(nullptr));
+}
+
+void tst_ErrorIndex::rowsThatCameLaterAreTold()
+{
+    Errors errors;
+    const QStandardItem *item = errors.append(u"k1"_s, error(u"st1"_s));
+    const quint64 age = errors.index.newestAge();
+    const QStandardItem *later = errors.append(u"k2"_s, error(u"st2"_s));
+    QVERIFY(errors.index.contains(item, age));
+    QVERIFY(!errors.index.contains(later, age));
+
+    errors.model.item(0)->setData(u"st3"_s, SystemErrorModel::StationIDRole);
+    QVERIFY(errors.index.contains(item, age));
+    errors.model.sort(0);
+    QVERIFY(errors.index.contains(item, age));
+    QVERIFY(!errors.index.contains(later, age));
 }
 
 void tst_ErrorIndex::rowsThatWereThereBeforeAreFound()

@@ -524,6 +524,8 @@ void tst_TopologyIndex::randomChangesAreFollowed()
                     during += differences(index, model);
             };
             using Model = QAbstractItemModel;
+            connect(&model, &Model::rowsAboutToBeInserted, &model, search);
+            connect(&model, &Model::rowsInserted, &model, search);
             connect(&model, &Model::rowsAboutToBeRemoved, &model, search);
             connect(&model, &Model::rowsRemoved, &model, search);
             connect(&model, &Model::modelAboutToBeReset, &model, search);

@@ -2,6 +2,8 @@
 
 #include "ModelRoles.h"
 
+#include <QAbstractItemModelTester>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -31,6 +33,17 @@ void showNode(QStandardItem *parent, const ReferenceNode &node)
         showNode(item, child);
 }
 
+// Shows in the tree what the node has become.
+void showValues(QStandardItem &item, const ReferenceNode &node)
+{
+    item.setData(node.id, TopologyRole::LookupID);
+    item.setData(QVariantMap{{u"nameRole"_s, node.name}}, TopologyRole::LookupNames);
+    item.setData(node.name, TopologyRole::DisplayName);
+    item.setData(node.id, TopologyRole::NodeID);
+    item.setData(node.type, TopologyRole::NodeType);
+    item.setData(node.isConnected, TopologyRole::Connected);
+}
+
 QString words(std::initializer_list<QVariant> values)
 {
     QStringList texts;
@@ -50,6 +63,7 @@ RandomDriver::RandomDriver(quint32 seed)
                                         ThresholdVariables{QByteArray::number(m_thresholds[0]),
                                                            QByteArray::number(m_thresholds[1]),
                                                            QByteArray::number(m_thresholds[2])}))
+    , m_topology(&m_host->topologyModel)
     , m_reference(m_thresholds[0], m_thresholds[1], m_thresholds[2])
 {
     for (int i = 0; i < 6; ++i) {
@@ -57,10 +71,10 @@ RandomDriver::RandomDriver(quint32 seed)
         m_cameraIDs.append(stationID + u'/' + oneOf(CameraNames));
     }
     m_cameraIDs.append(u"stray"_s);
-    for (int i = 0; i < 3; ++i) {
-        auto *const proxy = m_host->ask<QObject *>("getSystemErrorSortFilterModel", &m_viewsOwner);
-        m_views.append({qobject_cast<QSortFilterProxyModel *>(proxy), 3, {}, {}});
-    }
+    new QAbstractItemModelTester(m_host->errors(), m_host->errors());
+    new QAbstractItemModelTester(m_host->resources(), m_host->resources());
+    for (int i = 0; i < 3; ++i)
+        addView();
     showTopology();
 }
 
@@ -86,7 +100,17 @@ QString RandomDriver::step()
         &RandomDriver::removeCamera,
         &RandomDriver::removeStation,
         &RandomDriver::changeTopology,
+        &RandomDriver::changeNode,
+        &RandomDriver::moveNode,
+        &RandomDriver::removeNode,
+        &RandomDriver::pairAnew,
+        &RandomDriver::endTopology,
         &RandomDriver::walk,
+        &RandomDriver::walk,
+        &RandomDriver::removeRowsBehind,
+        &RandomDriver::moveRowBehind,
+        &RandomDriver::changeRowBehind,
+        &RandomDriver::resetListBehind,
         &RandomDriver::reportVolume,
         &RandomDriver::reportVolume,
         &RandomDriver::reportUsage,
@@ -113,6 +137,8 @@ QString RandomDriver::step()
         &RandomDriver::changeConnection,
         &RandomDriver::changePlugins,
         &RandomDriver::changeView,
+        &RandomDriver::addView,
+        &RandomDriver::endView,
     };
     ++m_reference.step;
     return (this->*oneOf(operations))();
@@ -178,13 +204,15 @@ ReferenceNode RandomDriver::randomNode(int depth)
 
 void RandomDriver::showTopology()
 {
-    m_host->topologyModel.clear();
+    m_topology->clear();
     if (m_reference.hasTop)
-        showNode(m_host->topologyModel.invisibleRootItem(), m_reference.top);
+        showNode(m_topology->invisibleRootItem(), m_reference.top);
 }
 
 QString RandomDriver::changeTopology()
 {
+    if (!m_topology)
+        return pairAnew();
     m_reference.hasTop = !oneIn(8);
     m_reference.top = randomNode(3);
     m_reference.top.id = u"top"_s;
@@ -192,11 +220,158 @@ QString RandomDriver::changeTopology()
     return u"change topology"_s;
 }
 
+QString RandomDriver::changeNode()
+{
+    if (!m_topology || !m_reference.hasTop)
+        return u"no node to change"_s;
+    ReferenceNode *node = &m_reference.top;
+    QStandardItem *item = m_topology->item(0);
+    while (!node->children.isEmpty() && !oneIn(4)) {
+        const int row = below(static_cast<int>(node->children.size()));
+        node = &node->children[row];
+        item = item->child(row);
+    }
+    const ReferenceNode values = randomNode(0);
+    switch (below(4)) {
+    case 0:
+        node->name = values.name;
+        break;
+    case 1:
+        node->id = values.id;
+        break;
+    case 2:
+        node->isConnected = values.isConnected;
+        break;
+    default:
+        node->type = values.type;
+    }
+    showValues(*item, *node);
+    return u"change node "_s + words({node->id, node->name, node->type, node->isConnected});
+}
+
+QString RandomDriver::moveNode()
+{
+    const int count = m_reference.hasTop ? static_cast<int>(m_reference.top.children.size()) : 0;
+    if (!m_topology || count < 2)
+        return u"no node to move"_s;
+    const int from = below(count);
+    const int to = below(count - 1);
+    QStandardItem *const top = m_topology->item(0);
+    const QList<QStandardItem *> row = top->takeRow(from);
+    top->child(to)->insertRow(0, row);
+    const ReferenceNode node = m_reference.top.children.takeAt(from);
+    m_reference.top.children[to].children.prepend(node);
+    return u"move node "_s + words({from, to});
+}
+
+QString RandomDriver::removeNode()
+{
+    const int count = m_reference.hasTop ? static_cast<int>(m_reference.top.children.size()) : 0;
+    if (!m_topology || count == 0)
+        return u"no node to remove"_s;
+    const int row = below(count);
+    m_topology->item(0)->removeRow(row);
+    m_reference.top.children.removeAt(row);
+    return u"remove node "_s + words({row});
+}
+
+QString RandomDriver::pairAnew()
+{
+    // The signals are connected already; once more, and each would come twice.
+    const int connections = static_cast<int>(m_host->framework.connections().size());
+    for (int number = 1; number <= 4; ++number)
+        m_host->framework.refusedConnections.insert(connections + number);
+    auto topology = std::make_unique<TopologyModel>();
+    m_topology = topology.get();
+    m_reference.hasTop = true;
+    m_reference.top = randomNode(3);
+    m_reference.top.id = u"top"_s;
+    showTopology();
+    m_host->topology.model = m_topology;
+    m_host->plugin()->LoadPairPluginDone();
+    m_reference.paired();
+    // The former one ends while the plug-in holds the new one.
+    m_ownTopology = std::move(topology);
+    return u"pair anew"_s;
+}
+
+QString RandomDriver::endTopology()
+{
+    if (!m_ownTopology || !oneIn(2))
+        return u"topology stays"_s;
+    m_ownTopology.reset();
+    m_topology = nullptr;
+    m_host->topology.model = nullptr;
+    m_reference.hasTop = false;
+    return u"topology ends"_s;
+}
+
 QString RandomDriver::walk()
 {
     m_host->invoke("initNodeStatusError");
     m_reference.walk();
     return u"walk"_s;
+}
+
+QStandardItemModel &RandomDriver::errorModel()
+{
+    return *qobject_cast<QStandardItemModel *>(m_host->errors());
+}
+
+QString RandomDriver::removeRowsBehind()
+{
+    const int rows = static_cast<int>(m_reference.errors.size());
+    if (rows == 0)
+        return u"no rows to remove"_s;
+    const int first = below(rows);
+    const int count = 1 + below(qMin(3, rows - first));
+    errorModel().removeRows(first, count);
+    m_reference.errors.remove(first, count);
+    return u"others remove rows "_s + words({first, count});
+}
+
+QString RandomDriver::moveRowBehind()
+{
+    const int rows = static_cast<int>(m_reference.errors.size());
+    if (rows == 0)
+        return u"no row to move"_s;
+    const int from = below(rows);
+    const int to = below(rows);
+    errorModel().insertRow(to, errorModel().takeRow(from));
+    m_reference.moveRow(from, to);
+    return u"others move row "_s + words({from, to});
+}
+
+QString RandomDriver::changeRowBehind()
+{
+    if (m_reference.errors.isEmpty())
+        return u"no row to change"_s;
+    const int row = below(static_cast<int>(m_reference.errors.size()));
+    ReferenceError &error = m_reference.errors[row];
+    const QModelIndex index = errorModel().index(row, 0);
+    switch (below(3)) {
+    case 0:
+        error.key = oneOf(m_reference.errors).key;
+        errorModel().setData(index, error.key, ErrorRole::UniqueID);
+        break;
+    case 1:
+        error.stationID = oneOf(m_stationIDs);
+        errorModel().setData(index, error.stationID, ErrorRole::StationID);
+        break;
+    default:
+        error.deviceID = nodeID();
+        errorModel().setData(index, error.deviceID, ErrorRole::DeviceID);
+    }
+    return u"others change row "_s + words({row, error.key, error.stationID, error.deviceID});
+}
+
+QString RandomDriver::resetListBehind()
+{
+    if (!oneIn(4))
+        return u"list stays"_s;
+    errorModel().clear();
+    m_reference.errors.clear();
+    return u"others reset the list"_s;
 }
 
 QString RandomDriver::reportVolume()
@@ -423,8 +598,29 @@ QString RandomDriver::changePlugins()
     return u"change plug-ins "_s + words({recording != nullptr, log != nullptr});
 }
 
+QString RandomDriver::addView()
+{
+    if (m_views.size() == 5)
+        return u"views enough"_s;
+    auto *const proxy = qobject_cast<QSortFilterProxyModel *>(
+        m_host->ask<QObject *>("getSystemErrorSortFilterModel", &m_viewsOwner));
+    new QAbstractItemModelTester(proxy, proxy);
+    m_views.append({proxy, 3, {}, {}});
+    return u"add view"_s;
+}
+
+QString RandomDriver::endView()
+{
+    if (m_views.isEmpty())
+        return u"no view to end"_s;
+    delete m_views.takeAt(below(static_cast<int>(m_views.size()))).proxy;
+    return u"end view"_s;
+}
+
 QString RandomDriver::changeView()
 {
+    if (m_views.isEmpty())
+        return u"no view to change"_s;
     DrivenView &view = m_views[below(static_cast<int>(m_views.size()))];
     switch (below(3)) {
     case 0:

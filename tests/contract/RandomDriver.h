@@ -20,9 +20,10 @@ struct DrivenView
 
 /// Does the same random things to the loaded plug-in and to the reference.
 ///
-/// Everything follows from the seed, so that a failing run can be repeated. Few ids are in play at
-/// a time, and they are chosen to be mistaken for one another: beginnings of each other, with
-/// slashes, with percent markers, in other scripts, or empty.
+/// That includes what others do behind the plug-in's back: to its lists, to the device tree, and to
+/// the views. Everything follows from the seed, so that a failing run can be repeated. Few ids are
+/// in play at a time, and they are chosen to be mistaken for one another: beginnings of each other,
+/// with slashes, with percent markers, in other scripts, or empty.
 class RandomDriver
 {
 public:
@@ -46,6 +47,15 @@ private:
     QString removeCamera();
     QString removeStation();
     QString changeTopology();
+    QString changeNode();
+    QString moveNode();
+    QString removeNode();
+    QString pairAnew();
+    QString endTopology();
+    QString removeRowsBehind();
+    QString moveRowBehind();
+    QString changeRowBehind();
+    QString resetListBehind();
     QString walk();
     QString reportVolume();
     QString reportUsage();
@@ -66,6 +76,8 @@ private:
     QString changeConnection();
     QString changePlugins();
     QString changeView();
+    QString addView();
+    QString endView();
 
     int below(int limit) { return static_cast<int>(m_random.bounded(limit)); }
     bool oneIn(int count) { return below(count) == 0; }
@@ -79,6 +91,7 @@ private:
     QVariant networkEntry();
     ReferenceNode randomNode(int depth);
     void showTopology();
+    QStandardItemModel &errorModel();
 
     QRandomGenerator m_random;
     QStringList m_stationIDs;
@@ -86,6 +99,8 @@ private:
     QStringList m_subIDs;
     int m_thresholds[3];
     std::unique_ptr<TestHost> m_host;
+    std::unique_ptr<TopologyModel> m_ownTopology; ///< takes the place of the host's
+    TopologyModel *m_topology;                    ///< null while there is none
     ReferenceMonitor m_reference;
     QList<DrivenView> m_views;
     QObject m_viewsOwner;

@@ -206,6 +206,14 @@ void ReferenceMonitor::remove(int serial)
     }
 }
 
+void ReferenceMonitor::moveRow(int from, int to)
+{
+    // A row that was taken out comes back as another one, which no key finds.
+    ReferenceError error = errors.takeAt(from);
+    error.serial = ++m_lastSerial;
+    errors.insert(to, error);
+}
+
 void ReferenceMonitor::addStationError(const QString &stationID, int type, const QString &subID,
                                        const QString &origin)
 {
@@ -493,6 +501,24 @@ void ReferenceMonitor::supportResponse(const QString &stationID, const QString &
         resultCode != u"{2C85B19D-AE6F-45D9-B8FE-DC436FCBEABE}FrameworkInternalError"_s;
     log.append(u"isSupportSystemMonitor("_s + quoted(stationID) + u", "_s + truth(isSupported)
                + u')');
+}
+
+void ReferenceMonitor::paired()
+{
+    log.append(u"ask whether to skip pair wiring"_s);
+    const QStringList connections{
+        u"2nodeStatusChanged(int, const QString &, bool) to %1 "
+        "1monitorNodeStatus(int, const QString &, bool)"_s,
+        u"2deviceRemoved(const QString &) to %1 1removeCameraError(const QString &)"_s,
+        u"2stationRemoved(const QString &) to %1 1removeStationError(const QString &)"_s,
+        u"2camStatusRetrievedChanged(bool) to %1 1initNodeStatusErrorTimer(bool)"_s,
+    };
+    for (const QString &connection : connections) {
+        log.append(u"connect 1AA33B3D0AA047C9A202F1181284D2CD "_s
+                   + connection.arg(u"{CA5B02D6-F3E0-4FD7-A55C-17F425D5B415}"_s));
+    }
+    log.append(u"find 1AA33B3D0AA047C9A202F1181284D2CD"_s);
+    log.append(u"getStandardTopologyModel"_s);
 }
 
 void ReferenceMonitor::serverConnected()

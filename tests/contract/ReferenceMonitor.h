@@ -67,6 +67,9 @@ public:
     QVariantList stationErrors;
     QString focus;
 
+    // What others do to the error list.
+    void moveRow(int from, int to);
+
     // What the topology plug-in reports.
     void nodeStatus(int type, const QString &id, bool isConnected);
     void cameraRemoved(const QString &id);
@@ -94,6 +97,7 @@ public:
     void snoozeResponse(const QVariant &data, const QString &resultCode);
     void snoozeListResponse(const QStringList &ids);
     void supportResponse(const QString &stationID, const QString &resultCode);
+    void paired();
     void serverConnected();
     void serverDisconnected();
 

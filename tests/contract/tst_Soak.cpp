@@ -1,0 +1,221 @@
+#include "MemoryUse.h"
+#include "TestHost.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QRandomGenerator>
+#include <QRegularExpression>
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+/// A million events of all kinds, as a client sees them in weeks: what the plug-in holds does not
+/// grow. The time of an event is printed, tenth by tenth.
+class tst_Soak : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void millionEventsLeaveNothingBehind();
+};
+
+namespace {
+
+constexpr int Tenths = 10;
+constexpr int EventsOfATenth = 100'000;
+constexpr int Stations = 20;
+constexpr int CamerasOfAStation = 20;
+constexpr qint64 MostHeapGrowth = 64 * 1024;
+constexpr qint64 MostResidentGrowth = 4 * 1024 * 1024;
+
+QString stationID(int station)
+{
+    return u"st%1"_s.arg(station);
+}
+
+QString cameraID(int station, int camera)
+{
+    return u"st%1/cam%2"_s.arg(station).arg(camera);
+}
+
+/// A site whose server and devices do one random thing after another.
+class BusySite
+{
+public:
+    BusySite()
+    {
+        for (int station = 0; station < Stations; ++station) {
+            QStandardItem *const item =
+                m_host.topologyModel.addStation(stationID(station), u"Lobby"_s);
+            for (int camera = 0; camera < CamerasOfAStation; ++camera)
+                TopologyModel::addCamera(item, cameraID(station, camera), u"Door"_s);
+        }
+        m_host.ask<QObject *>("getSystemErrorSortFilterModel", &m_views);
+    }
+
+    void step()
+    {
+        switch (below(16)) {
+        case 0:
+            Q_EMIT m_host.topology.nodeStatusChanged(1, anyStation(), below(4) > 0);
+            break;
+        case 1:
+            snooze(below(2) == 0 ? u"SnoozeError"_s : u"DeviceStillError"_s);
+            break;
+        case 2:
+            m_host.event(u"RemoveSnooze"_s, anyCamera());
+            break;
+        case 3:
+            m_host.respond(u"setSnooze"_s, snoozeData());
+            break;
+        case 4:
+            askForSupport();
+            break;
+        case 5:
+            reportGroup();
+            break;
+        case 6:
+            seldom();
+            break;
+        case 7:
+        case 8:
+        case 9:
+            reportUsage();
+            break;
+        default:
+            Q_EMIT m_host.topology.nodeStatusChanged(0, anyCamera(), below(2) == 0);
+        }
+        m_host.log.take();
+        m_host.framework.forgetCommands();
+    }
+
+    /// Back to what the site was in the beginning.
+    void settle()
+    {
+        m_host.plugin()->PluginServerDisconnected();
+        m_host.respond(u"getSnoozeList"_s, QStringList());
+        m_host.object()->setProperty("focusStationResource", QString());
+        m_host.invoke("updateStationErrorNumber");
+        QCoreApplication::processEvents();
+        m_host.log.take();
+    }
+
+    int errors() { return m_host.errors()->rowCount(); }
+
+private:
+    int below(int limit) { return m_random.bounded(limit); }
+    QString anyStation() { return stationID(below(Stations)); }
+    QString anyCamera() { return cameraID(below(Stations), below(CamerasOfAStation)); }
+
+    QVariantMap snoozeData()
+    {
+        return {{u"nodeID"_s, anyCamera()}, {u"type"_s, 3}, {u"timestamp"_s, 1'700'000'000LL}};
+    }
+
+    void snooze(const QString &event) { m_host.event(event, snoozeData()); }
+
+    void askForSupport()
+    {
+        m_host.ask<bool>("checkSupportSystemMonitor", anyStation());
+        m_host.respond(u"isSupportSystemMonitor"_s, {}, u"0"_s,
+                       m_host.framework.commands().last().context);
+    }
+
+    void reportGroup()
+    {
+        if (below(2) == 0)
+            m_host.invoke("monitorInsufficientRecordingDays", anyStation(), u"Group"_s, u"g1"_s);
+        else
+            m_host.invoke("monitorSufficientRecordingGroup", anyStation(), u"g1"_s);
+    }
+
+    void reportUsage()
+    {
+        const QVariantMap network{{u"networkInterface"_s, u"en%1"_s.arg(below(3))},
+                                  {u"networkPercentage"_s, below(1000) / 10.0},
+                                  {u"networkBandwidth"_s, below(1000)}};
+        const QVariantMap report{{u"cpuPercentage"_s, below(101)},
+                                 {u"memPercentage"_s, below(101)},
+                                 {u"networkUsageList"_s, QVariantList{network}}};
+        m_host.event(u"SystemResChanged"_s, report, anyStation());
+    }
+
+    void seldom()
+    {
+        switch (below(40)) {
+        case 0:
+            m_host.invoke("initNodeStatusError");
+            break;
+        case 1:
+            m_host.plugin()->PluginServerDisconnected();
+            break;
+        case 2:
+            m_host.object()->setProperty("focusStationResource", anyStation());
+            break;
+        case 3:
+            m_host.invoke("updateStationErrorNumber");
+            break;
+        case 4:
+            m_host.invoke("reconnectDisconnectCameras");
+            break;
+        case 5:
+            QCoreApplication::processEvents();
+            break;
+        case 6:
+            changeTopology();
+            break;
+        default:
+            m_host.invoke("monitorVolumeStatus", anyStation());
+            m_host.invoke("removeVolumeError", anyStation());
+        }
+    }
+
+    void changeTopology()
+    {
+        QStandardItem *const top = m_host.topologyModel.top();
+        const int row = below(top->rowCount());
+        const QList<QStandardItem *> station = top->takeRow(row);
+        Q_EMIT m_host.topology.stationRemoved(stationID(row));
+        top->insertRow(row, station);
+    }
+
+    TestHost m_host;
+    QObject m_views;
+    QRandomGenerator m_random{1};
+};
+
+} // namespace
+
+void tst_Soak::init()
+{
+    QTest::failOnWarning(QRegularExpression(u"."_s));
+}
+
+void tst_Soak::millionEventsLeaveNothingBehind()
+{
+    BusySite site;
+    MemoryUse first{};
+    MemoryUse last{};
+    for (int tenth = 1; tenth <= Tenths; ++tenth) {
+        QElapsedTimer timer;
+        timer.start();
+        for (int event = 0; event < EventsOfATenth; ++event)
+            site.step();
+        const double microseconds = static_cast<double>(timer.nsecsElapsed()) / 1000;
+        const int errors = site.errors();
+        site.settle();
+        last = MemoryUse::now();
+        if (tenth == 1)
+            first = last;
+        qInfo("tenth %d: %.1f us an event, %d errors, %lld bytes on the heap, %lld resident", tenth,
+              microseconds / EventsOfATenth, errors, last.allocated, last.resident);
+    }
+    if (!MemoryUse::isMeaningful())
+        return;
+    QCOMPARE_LT(last.allocated - first.allocated, MostHeapGrowth);
+    QCOMPARE_LT(last.resident - first.resident, MostResidentGrowth);
+}
+
+QTEST_GUILESS_MAIN(tst_Soak)
+#include "tst_Soak.moc"
