@@ -88,8 +88,11 @@ qsizetype TopologyIndex::countNodes(const QModelIndex &parent) const
 {
     const int rows = m_model->rowCount(parent);
     qsizetype nodes = rows;
-    for (int row = 0; row < rows; ++row)
-        nodes += countNodes(m_model->index(row, 0, parent));
+    for (int row = 0; row < rows; ++row) {
+        // Rows of a model without columns have no index.
+        if (const QModelIndex index = m_model->index(row, 0, parent); index.isValid())
+            nodes += countNodes(index);
+    }
     return nodes;
 }
 
