@@ -18,30 +18,22 @@ function(add_precompiled_qt NAME VISIBILITY)
     target_precompile_headers(${NAME} PRIVATE <QtCore> <QtGui> <QtTest>)
 endfunction()
 
-# Lets the targets of a directory and of those below it share the precompiled headers. Targets
-# without our warnings keep out, since the headers are compiled with their definitions.
-function(precompile_qt DIRECTORY)
-    get_property(TARGETS DIRECTORY "${DIRECTORY}" PROPERTY BUILDSYSTEM_TARGETS)
+# The headers are compiled with the definitions of our warnings, so only targets with those share
+# them.
+function(precompile_qt)
+    own_targets(TARGETS)
     foreach(TARGET IN LISTS TARGETS)
-        get_target_property(LIBRARIES ${TARGET} LINK_LIBRARIES)
         get_target_property(VISIBILITY ${TARGET} CXX_VISIBILITY_PRESET)
-        if(NOT "SystemMonitorWarnings" IN_LIST LIBRARIES)
-            continue()
-        elseif(VISIBILITY STREQUAL "hidden")
+        if(VISIBILITY STREQUAL "hidden")
             target_precompile_headers(${TARGET} REUSE_FROM PrecompiledQtHidden)
         else()
             target_precompile_headers(${TARGET} REUSE_FROM PrecompiledQt)
         endif()
-    endforeach()
-    get_property(SUBDIRECTORIES DIRECTORY "${DIRECTORY}" PROPERTY SUBDIRECTORIES)
-    foreach(SUBDIRECTORY IN LISTS SUBDIRECTORIES)
-        precompile_qt("${SUBDIRECTORY}")
     endforeach()
 endfunction()
 
 if(SYSTEM_MONITOR_PRECOMPILE_QT)
     add_precompiled_qt(PrecompiledQt default)
     add_precompiled_qt(PrecompiledQtHidden hidden)
-    cmake_language(DEFER DIRECTORY "${PROJECT_SOURCE_DIR}"
-        CALL precompile_qt "${PROJECT_SOURCE_DIR}")
+    cmake_language(DEFER DIRECTORY "${PROJECT_SOURCE_DIR}" CALL precompile_qt)
 endif()

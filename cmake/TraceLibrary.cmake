@@ -27,10 +27,12 @@ endfunction()
 function(add_trace_variant_tests NAME)
     set_property(TEST ${NAME} APPEND PROPERTY ENVIRONMENT
         "LD_LIBRARY_PATH=" "TRACE_LIBRARY_VARIANT=missing")
+    get_test_property(${NAME} LABELS LABELS)
     foreach(VARIANT IN LISTS TRACE_LIBRARY_VARIANTS)
         trace_library_directory(${VARIANT} DIRECTORY)
         add_test(NAME ${NAME}.${VARIANT} COMMAND ${NAME})
-        set_tests_properties(${NAME}.${VARIANT} PROPERTIES ENVIRONMENT
-            "${SYSTEM_MONITOR_TEST_ENVIRONMENT};LD_LIBRARY_PATH=${DIRECTORY};TRACE_LIBRARY_VARIANT=${VARIANT}")
+        set_tests_properties(${NAME}.${VARIANT} PROPERTIES
+            LABELS "${LABELS}"
+            ENVIRONMENT "${SYSTEM_MONITOR_TEST_ENVIRONMENT};LD_LIBRARY_PATH=${DIRECTORY};TRACE_LIBRARY_VARIANT=${VARIANT}")
     endforeach()
 endfunction()

@@ -151,11 +151,11 @@ void ErrorIndex::untrack(const QStandardItem *item)
         m_itemByKey.erase(it);
 }
 
-void ErrorIndex::file(QStandardItem *item, Row row)
+void ErrorIndex::file(QStandardItem *item, const Row &row)
 {
     m_itemsByStation[row.stationID].insert(item);
     m_itemsByDevice.emplace(row.deviceID, item);
-    m_rows.insert(item, std::move(row));
+    m_rows.insert(item, row);
 }
 
 void ErrorIndex::unfile(const QStandardItem *item, const Row &row)
@@ -194,7 +194,7 @@ void ErrorIndex::refileRows(int first, int last)
             trackAnew();
             return;
         }
-        const Row filed = it.value();
+        const Row &filed = it.value();
         unfile(item, filed);
         file(item, {filed.key, item->data(SystemErrorModel::StationIDRole).toString(),
                     item->data(SystemErrorModel::DeviceIDRole).toString()});

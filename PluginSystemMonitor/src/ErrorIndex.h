@@ -60,7 +60,7 @@ private:
     QStandardItem *itemOfRow(int row) const;
     void track(QStandardItem *item);
     void untrack(const QStandardItem *item);
-    void file(QStandardItem *item, Row row);
+    void file(QStandardItem *item, const Row &row);
     void unfile(const QStandardItem *item, const Row &row);
     void trackRows(int first, int last);
     void untrackRows(int first, int last);
