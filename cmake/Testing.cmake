@@ -9,7 +9,8 @@ set(SYSTEM_MONITOR_TEST_ENVIRONMENT
     "LANGUAGE=")
 
 # add_qt_test(NAME tst_Foo [SOURCES ...] [LIBRARIES ...] [ENVIRONMENT VAR=value ...])
-# Builds tst_Foo.cpp (and further sources) into a Qt Test program and registers it.
+# Builds tst_Foo.cpp (and further sources) into a Qt Test program and registers it. Its label is the
+# topmost folder: `ctest -L TraceLog`.
 function(add_qt_test)
     cmake_parse_arguments(PARSE_ARGV 0 TEST "" "NAME" "SOURCES;LIBRARIES;ENVIRONMENT")
     add_executable(${TEST_NAME} ${TEST_NAME}.cpp ${TEST_SOURCES})
@@ -18,6 +19,9 @@ function(add_qt_test)
         RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/tests/bin")
     target_link_libraries(${TEST_NAME} PRIVATE SystemMonitorWarnings Qt6::Test ${TEST_LIBRARIES})
     add_test(NAME ${TEST_NAME} COMMAND ${TEST_NAME})
+    file(RELATIVE_PATH FOLDER "${PROJECT_SOURCE_DIR}" "${CMAKE_CURRENT_SOURCE_DIR}")
+    string(REGEX REPLACE "/.*" "" FOLDER "${FOLDER}")
     set_tests_properties(${TEST_NAME} PROPERTIES
+        LABELS "${FOLDER}"
         ENVIRONMENT "${SYSTEM_MONITOR_TEST_ENVIRONMENT};${TEST_ENVIRONMENT}")
 endfunction()

@@ -1,26 +1,28 @@
 # shellcheck shell=bash disable=SC2154 # root is set by who sources this
-# Sourced by ./run and ./test: installs what is missing and builds. Says nothing when there is
-# nothing to do.
+# Sourced by ./run, ./test and ./check: installs what is missing and builds. Says nothing when there
+# is nothing to do.
 
 cd "$root" || exit
 
 say() { printf '%s\n' "$*" >&2; }
 
-# The packages of cmake/packages.txt that are not installed.
+# missing_packages LIST...: the packages of these lists that are not installed.
 missing_packages() {
     local wanted
-    wanted=$(grep -v '^#' cmake/packages.txt)
+    wanted=$(grep -hv '^#' "$@")
     # shellcheck disable=SC2086 # one word a package
     dpkg-query -W -f '${binary:Package} ${db:Status-Status}\n' $wanted 2>/dev/null |
         sed -n 's/:[a-z0-9]* / /; s/ installed$//p' | sort >"$installed"
+    # shellcheck disable=SC2086 # one word a package
     printf '%s\n' $wanted | sort | comm -23 - "$installed" | tr '\n' ' '
 }
 
+# install_packages LIST...
 install_packages() {
     command -v dpkg-query >/dev/null || return 0 # not Debian: the build says what it misses
     local installed missing as_root=
     installed=$(mktemp)
-    missing=$(missing_packages)
+    missing=$(missing_packages "$@")
     rm -f "$installed"
     [ -n "$missing" ] || return 0
 
@@ -72,5 +74,3 @@ build() {
         logged "$directory/build.log" ninja -C "$directory" "${@:2}"
     fi
 }
-
-install_packages

@@ -39,8 +39,8 @@ public:
     /// @return whether the host accepted the command. The response of an accepted command arrives
     ///         later, through PluginBase::CommandProcessor.
     virtual bool SendCommand(void *handle, const QString &senderID, const QString &command,
-                             const QVariant &data, void *context, int flag, const QString &target)
-        = 0;
+                             const QVariant &data, void *context, int flag,
+                             const QString &target) = 0;
 
     /// Positions 3 to 6.
     virtual void Reserved3() { }
@@ -58,8 +58,7 @@ public:
     /// @param flag       always 0
     /// @return whether the connection was made
     virtual bool ConnectPluginSignal(void *handle, const QString &sourceID, const char *signal,
-                                     const QString &receiverID, const char *slot, int flag)
-        = 0;
+                                     const QString &receiverID, const char *slot, int flag) = 0;
 
     /// Positions 8 and 9.
     virtual void Reserved8() { }

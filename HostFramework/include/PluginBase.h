@@ -25,8 +25,7 @@ class PluginBase : public QObject
 public:
     explicit PluginBase(QObject *parent = nullptr)
         : QObject(parent)
-    {
-    }
+    { }
 
     /// Stores what the host hands over and initialises the plug-in.
     ///
@@ -36,19 +35,16 @@ public:
     ///                  own and sends nothing
     /// @return the result of Init()
     virtual bool InitialPluginBase(QQmlContext *context, void *handle,
-                                   FrameworkWrapperBase *framework)
-        = 0;
+                                   FrameworkWrapperBase *framework) = 0;
 
     /// Delivers a server event: its name, three figures of the host's, its data, and the id of the
     /// station that it comes from.
     virtual void EventProcessor(QString eventName, qint64, int, int, QVariant data,
-                                const QString &sourceID)
-        = 0;
+                                const QString &sourceID) = 0;
 
     /// As EventProcessor(), with a configuration object of the host's.
     virtual void EventProcessorEx(QString eventName, ConfigBase *config, qint64, int, int,
-                                  QVariant data, const QString &sourceID)
-        = 0;
+                                  QVariant data, const QString &sourceID) = 0;
 
     /// Delivers the response to a command that the plug-in sent.
     ///
@@ -57,14 +53,12 @@ public:
     /// @param context    the pointer that the plug-in passed with the command
     /// @param resultCode "0" for success, or what went wrong
     virtual void CommandProcessor(QString command, QVariant data, void *context, QString resultCode,
-                                  QString, bool, const QString &)
-        = 0;
+                                  QString, bool, const QString &) = 0;
 
     /// As CommandProcessor(), with a configuration object of the host's.
     virtual void CommandProcessorEx(QString command, ConfigBase *config, QVariant data,
                                     void *context, QString resultCode, QString, bool,
-                                    const QString &)
-        = 0;
+                                    const QString &) = 0;
 
     /// Creates what the plug-in needs to run. Returns false only when memory is short.
     virtual bool Init(QQmlContext *context) = 0;

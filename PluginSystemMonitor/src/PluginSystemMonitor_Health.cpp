@@ -148,7 +148,7 @@ void PluginSystemMonitor::recursiveAppendStatusError(const QModelIndex &parent)
 QString PluginSystemMonitor::nameInWalk(const QModelIndex &node, int type,
                                         const QString &nodeID) const
 {
-    const QString name = node.data(Topology::DisplayNameRole).toString();
+    QString name = node.data(Topology::DisplayNameRole).toString();
     if (!isCameraInTopologyModel(type))
         return name;
     return findDeviceName(getParentStationID(nodeID)) % QStringLiteral(" - ") % name;

@@ -35,7 +35,7 @@ public:
 private:
     const char *m_file;
     const char *m_function;
-    int m_line;
+    [[maybe_unused]] int m_line; // where the operation starts, for a look at it in a debugger
 };
 
 /// Writes the Enter line of an operation and returns what writes its Leave line.

@@ -10,8 +10,8 @@ namespace SystemResourceMonitorCommon {
 struct NetworkUsage
 {
     QString interfaceName; ///< as the network sampler lists it
-    double percentage;     ///< usage of the interface in percent
-    double bandwidth;      ///< in whatever unit the network sampler measures
+    double percentage = 0; ///< usage of the interface in percent
+    double bandwidth = 0;  ///< in whatever unit the network sampler measures
 };
 
 } // namespace SystemResourceMonitorCommon

@@ -15,14 +15,13 @@ constexpr int RegistrationConstant = 19;
 // A message's id holds the module above the level's eight bits.
 constexpr int LevelBits = 8;
 
-using EntryPoint = void (*)(int, TraceRecord **);
+using EntryPoint = void (*)(int, void **);
 
 } // namespace
 
 TraceLibrary::TraceLibrary()
     : m_handle(dlopen(LibraryFileName, RTLD_LAZY))
-{
-}
+{ }
 
 TraceLibrary::~TraceLibrary()
 {
@@ -38,8 +37,9 @@ TraceRecord *registerModule(const TraceLibrary &library, const char *moduleName,
     if (!entryPoint)
         return nullptr;
 
-    TraceRecord *record = nullptr;
-    entryPoint(0, &record);
+    void *global = nullptr;
+    entryPoint(0, &global);
+    const auto record = static_cast<TraceRecord *>(global);
     if (record && record->registerModule)
         record->registerModule(record->context, RegistrationConstant, moduleName, moduleId);
     return record;

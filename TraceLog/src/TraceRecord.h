@@ -9,7 +9,7 @@ namespace TraceLog {
 /// The importance of a message, as the trace library counts it.
 enum Level : int {
     ErrorLevel = 2, ///< something went wrong
-    InfoLevel = 3, ///< something worth knowing happened
+    InfoLevel = 3,  ///< something worth knowing happened
     EntryLevel = 5, ///< an operation was entered or left
 };
 
@@ -31,7 +31,7 @@ struct TraceRecord
     RegisterModule registerModule; ///< assigns an id to a module, then or later
     void *reserved10[4];
     LevelTest isSuppressed; ///< 0 when the message is to be written
-    Output output; ///< writes one message
+    Output output;          ///< writes one message
 };
 
 inline constexpr std::size_t WordSize = 8;

@@ -93,7 +93,7 @@ void ConsoleReport::followErrors(const Workbench &workbench)
         line(tr("cleared"), error);
     });
     connect(&watch, &ErrorListWatch::changed, this,
-            [this, line](const ListedError &error) { line(tr("changed"), error); });
+            [line](const ListedError &error) { line(tr("changed"), error); });
 }
 
 void ConsoleReport::followServer(Workbench &workbench)

@@ -4,6 +4,7 @@
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
+#include <QDir>
 #include <QFileInfo>
 
 #include <cmath>
@@ -157,5 +158,9 @@ QString optionsHelp()
 
 QString defaultPluginFile()
 {
-    return QCoreApplication::applicationDirPath() + QStringLiteral("/" WORKBENCH_DEFAULT_PLUGIN);
+    const QDir program(QCoreApplication::applicationDirPath());
+    const QString built = program.filePath(QStringLiteral(WORKBENCH_BUILT_PLUGIN));
+    if (QFile::exists(built))
+        return built;
+    return program.filePath(QStringLiteral(WORKBENCH_INSTALLED_PLUGIN));
 }

@@ -29,7 +29,8 @@ Options parseOptions(const QStringList &arguments);
 /// What the command line may hold, for the user. Needs an application object.
 QString optionsHelp();
 
-/// The plug-in that was built with this program. Needs an application object.
+/// The plug-in that was built or installed with this program, found relative to it. Needs an
+/// application object.
 QString defaultPluginFile();
 
 #endif

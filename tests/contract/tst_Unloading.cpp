@@ -1,10 +1,33 @@
+#include "FakeTopologyPlugin.h"
+#include "HandMadeFramework.h"
+#include "PluginBase.h"
+#include "PluginIDs.h"
+#include "PrintedValue.h"
 #include "TestTraceLibrary.h"
+#include "TopologyModel.h"
 
-#include <QObject>
+#include <QAbstractItemModel>
+#include <QFile>
+#include <QFileInfo>
+#include <QPluginLoader>
 #include <QRegularExpression>
 #include <QTest>
 
-#include <dlfcn.h>
+#include <memory>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// Whether any part of the plug-in file is in the memory of this process.
+bool isMapped()
+{
+    QFile maps(u"/proc/self/maps"_s);
+    return maps.open(QIODevice::ReadOnly)
+           && maps.readAll().contains(QFileInfo(QStringLiteral(PLUGIN_FILE)).fileName().toUtf8());
+}
+
+} // namespace
 
 /// The plug-in file leaves the process again. Each step needs the one before.
 class tst_Unloading : public QObject
@@ -15,43 +38,86 @@ private Q_SLOTS:
     void init();
     void loadingOpensTheTraceLibrary();
     void objectMayComeAndGo();
+    void objectLivesThroughEverySubject();
+    void unloadingRemovesTheFileFromTheProcess();
     void unloadingClosesTheTraceLibrary();
+    void fileMayBeLoadedAgain();
 
 private:
-    void *m_plugin = nullptr;
+    QPluginLoader m_loader{QStringLiteral(PLUGIN_FILE)};
 };
 
 void tst_Unloading::init()
 {
-    QTest::failOnWarning(QRegularExpression(QStringLiteral(".")));
+    QTest::failOnWarning(QRegularExpression(u"."_s));
 }
 
 void tst_Unloading::loadingOpensTheTraceLibrary()
 {
     QVERIFY(!TestTraceLibrary::isLoaded());
-    m_plugin = dlopen(PLUGIN_FILE, RTLD_LAZY);
-    QVERIFY2(m_plugin, dlerror());
+    m_loader.setLoadHints({}); // by default Qt keeps every plug-in loaded
+    QVERIFY2(m_loader.load(), qUtf8Printable(m_loader.errorString()));
+    QVERIFY(isMapped());
     QVERIFY(TestTraceLibrary::isLoaded());
 }
 
 void tst_Unloading::objectMayComeAndGo()
 {
-    const auto instance = reinterpret_cast<QObject *(*)()>(dlsym(m_plugin, "qt_plugin_instance"));
-    QVERIFY(instance);
     for (int i = 0; i < 2; ++i) {
-        QObject *const object = instance();
+        QObject *const object = m_loader.instance();
         QVERIFY(object);
-        QCOMPARE(instance(), object);
+        QCOMPARE(m_loader.instance(), object);
         delete object;
     }
     QVERIFY(TestTraceLibrary::isLoaded());
 }
 
+// What an object leaves behind in Qt's global tables must not hold the file.
+void tst_Unloading::objectLivesThroughEverySubject()
+{
+    CallLog log;
+    TopologyModel topologyModel;
+    topologyModel.addStation(u"st1"_s, u"Lobby"_s, false);
+    FakeTopologyPlugin topology(log);
+    topology.model = &topologyModel;
+    HandMadeFramework host(log);
+    host.registerPlugin(PluginID::Topology, &topology);
+    const std::unique_ptr<QObject> object(m_loader.instance());
+    host.registerPlugin(PluginID::SystemMonitor, object.get());
+    const auto plugin = qobject_cast<PluginBase *>(object.get());
+    QVERIFY(plugin->InitialPluginBase(nullptr, host.handle(), host.framework()));
+    plugin->LoadPairPluginDone();
+
+    QObject *errors = nullptr;
+    QVERIFY(
+        QMetaObject::invokeMethod(plugin, "getSystemErrorModel", Q_RETURN_ARG(QObject *, errors)));
+    QObject *proxy = nullptr;
+    QVERIFY(QMetaObject::invokeMethod(plugin, "getSystemErrorSortFilterModel",
+                                      Q_RETURN_ARG(QObject *, proxy), Q_ARG(QObject *, plugin)));
+    QVERIFY(QMetaObject::invokeMethod(plugin, "initNodeStatusError"));
+    QVERIFY(plugin->setProperty("focusStationResource", u"st1"_s));
+    plugin->EventProcessor(u"SystemResChanged"_s, 0, 0, 0, QVariantMap{{u"cpuPercentage"_s, 100}},
+                           u"st1"_s);
+    QCOMPARE(errorKeys(*qobject_cast<QAbstractItemModel *>(errors)),
+             QStringList({u"4_st1"_s, u"0_st1"_s}));
+}
+
+void tst_Unloading::unloadingRemovesTheFileFromTheProcess()
+{
+    QVERIFY2(m_loader.unload(), qUtf8Printable(m_loader.errorString()));
+    QVERIFY(!isMapped());
+}
+
 void tst_Unloading::unloadingClosesTheTraceLibrary()
 {
-    QCOMPARE(dlclose(m_plugin), 0);
-    QVERIFY2(!dlopen(PLUGIN_FILE, RTLD_LAZY | RTLD_NOLOAD), "The plug-in is still loaded");
     QVERIFY(!TestTraceLibrary::isLoaded());
+}
+
+void tst_Unloading::fileMayBeLoadedAgain()
+{
+    const std::unique_ptr<QObject> object(m_loader.instance());
+    QVERIFY2(object, qUtf8Printable(m_loader.errorString()));
+    QVERIFY(TestTraceLibrary::isLoaded());
 }
 
 QTEST_GUILESS_MAIN(tst_Unloading)

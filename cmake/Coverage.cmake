@@ -1,0 +1,18 @@
+# Builds for gcov, and reports what the tests of the plug-in and its libraries reach of them. The
+# target `coverage-report` prints it and leaves pages with every line in coverage/.
+option(SYSTEM_MONITOR_COVERAGE "Count the branches that tests take" OFF)
+
+if(SYSTEM_MONITOR_COVERAGE)
+    find_program(GCOVR gcovr REQUIRED)
+    add_compile_options(--coverage -fprofile-abs-path)
+    add_link_options(--coverage)
+    # Each test program counts anew what it took last time, unless these files go first.
+    add_custom_target(coverage-report
+        COMMAND "${CMAKE_COMMAND}" -E make_directory coverage
+        COMMAND "${GCOVR}" --root "${PROJECT_SOURCE_DIR}" --object-directory "${CMAKE_BINARY_DIR}"
+            --filter "${PROJECT_SOURCE_DIR}/(PluginSystemMonitor|SystemResourceMonitor|TraceLog)/src/"
+            --exclude-throw-branches --exclude-unreachable-branches
+            --branches --print-summary --html-details coverage/index.html
+        WORKING_DIRECTORY "${CMAKE_BINARY_DIR}"
+        VERBATIM)
+endif()
