@@ -3,7 +3,7 @@ import QtQuick
 /// The health dashboard of a site, shown from the plug-in's surface and from what the host knows
 /// about the site.
 ///
-/// Keys: Ctrl+F goes to the text filter, Esc clears the filters; see also ErrorTable and
+/// Keys: Ctrl+F goes to the text filter, Esc clears the filters, Ctrl+E exports; see also ErrorTable and
 /// StationsPane.
 FocusScope {
     id: root
@@ -16,6 +16,12 @@ FocusScope {
     property var connectionSince
     /// List of {stationID, name, parentID, connected}; parentID is empty for a top-level station.
     property var stations: []
+
+    /// Writes files for the dashboard, or null, which takes the export away. It offers
+    /// `resolve(path)`, the absolute path of a name or path; `exists(path)`; and
+    /// `write(path, text)`, which writes a file whole or not at all and returns an empty text or
+    /// the reason why that failed.
+    property QtObject files: null
 
     readonly property var knownSince: connectionSince && !isNaN(connectionSince.getTime())
                                       ? connectionSince : undefined
@@ -31,6 +37,11 @@ FocusScope {
     Shortcut {
         sequence: "Ctrl+F"
         onActivated: overview.showTextFilter()
+    }
+
+    Shortcut {
+        sequence: "Ctrl+E"
+        onActivated: overview.exportShown()
     }
 
     StationDirectory {
@@ -73,6 +84,7 @@ FocusScope {
         directory: directory
         serverConnected: root.serverConnected
         connectionSince: root.knownSince
+        files: root.files
         onNoticed: (status, text) => notice.show(status, text)
     }
 

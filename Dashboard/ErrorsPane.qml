@@ -9,6 +9,8 @@ Panel {
     required property StationDirectory directory
     property bool serverConnected: false
     property var connectionSince
+    /// What writes files for the dashboard, or null; see DashboardView.files.
+    property var files: null
 
     /// The user wants to see the station of an error.
     signal stationRequested(stationID: string)
@@ -30,6 +32,10 @@ Panel {
     }
     readonly property RowCounter total: RowCounter {
         model: pane.surface ? pane.surface.getSystemErrorModel() : null
+    }
+    readonly property ErrorSheet sheet: ErrorSheet {
+        proxy: pane.proxy
+        directory: pane.directory
     }
     readonly property SnoozeRequests requests: SnoozeRequests {
         surface: pane.surface
@@ -83,6 +89,13 @@ Panel {
         noticed("good", qsTr("%n error(s) copied", "", rows.length));
     }
 
+    /// Asks where to save what the list shows; does nothing when that cannot be done.
+    function exportShown() {
+        if (files && shown.count > 0)
+            exportDialog.ask(qsTr("errors-%1.csv", "date and time").arg(Format.fileStamp(Clock.now)),
+                             sheet);
+    }
+
     function reconnectCameras() {
         surface.reconnectDisconnectCameras();
         noticed("good", qsTr("Asked to reconnect all disconnected cameras"));
@@ -101,6 +114,14 @@ Panel {
         id: snoozeDialog
 
         onChosen: milliseconds => pane.snoozeUntil(milliseconds)
+    }
+
+    ExportDialog {
+        id: exportDialog
+
+        files: pane.files
+        onSaved: (path, count) => pane.noticed("good", Format.fill(
+                                                   qsTr("%n error(s) saved as %1", "", count), path))
     }
 
     ErrorMenu {
@@ -127,9 +148,11 @@ Panel {
             shown: pane.shown.count
             total: pane.total.count
             serverConnected: pane.serverConnected
+            canExport: pane.files !== null
             onSnoozeChosen: seconds => pane.snoozeFor(seconds)
             onSnoozeMomentWanted: pane.askSnoozeMoment()
             onCopyChosen: pane.copySelection()
+            onExportChosen: pane.exportShown()
             onReconnectCamerasChosen: pane.reconnectCameras()
             onReconnectSubstationsChosen: pane.reconnectSubstations()
         }

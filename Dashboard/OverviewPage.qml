@@ -9,6 +9,7 @@ FocusScope {
     required property StationDirectory directory
     property bool serverConnected: false
     property var connectionSince
+    property var files: null
 
     /// Something happened that the user should read.
     signal noticed(status: string, text: string)
@@ -66,6 +67,10 @@ FocusScope {
         errors.filters.clear();
     }
 
+    function exportShown() {
+        errors.exportShown();
+    }
+
     onArrangementChanged: tabs.currentIndex = 0
 
     TabStrip {
@@ -105,6 +110,7 @@ FocusScope {
         directory: page.directory
         serverConnected: page.serverConnected
         connectionSince: page.connectionSince
+        files: page.files
         onStationRequested: stationID => page.showStation(stationID)
         onNoticed: (status, text) => page.noticed(status, text)
     }

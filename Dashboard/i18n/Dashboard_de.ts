@@ -148,6 +148,14 @@
         <source>All disconnected sub-stations</source>
         <translation>Alle getrennten Unterstationen</translation>
     </message>
+    <message>
+        <source>Export</source>
+        <translation>Exportieren</translation>
+    </message>
+    <message>
+        <source>Save the errors shown as a CSV file (Ctrl+E)</source>
+        <translation>Die angezeigten Fehler als CSV-Datei speichern (Strg+E)</translation>
+    </message>
 </context>
 <context>
     <name>ErrorBadge</name>
@@ -184,6 +192,38 @@
         <source>%1, %2, %3, since %4</source>
         <comment>kind, device, station, time</comment>
         <translation>%1, %2, %3, seit %4</translation>
+    </message>
+</context>
+<context>
+    <name>ErrorSheet</name>
+    <message>
+        <source>Error</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>Gerät</translation>
+    </message>
+    <message>
+        <source>Station</source>
+        <translation>Station</translation>
+    </message>
+    <message>
+        <source>Age</source>
+        <translation>Alter</translation>
+    </message>
+    <message>
+        <source>Since (%1)</source>
+        <comment>time zone</comment>
+        <translation>Seit (%1)</translation>
+    </message>
+    <message>
+        <source>Station ID</source>
+        <translation>Stations-ID</translation>
+    </message>
+    <message>
+        <source>Device ID</source>
+        <translation>Geräte-ID</translation>
     </message>
 </context>
 <context>
@@ -282,6 +322,50 @@
     <message>
         <source>Asked to reconnect all disconnected sub-stations</source>
         <translation>Neuverbindung aller getrennten Unterstationen angefordert</translation>
+    </message>
+    <message>
+        <source>errors-%1.csv</source>
+        <comment>date and time</comment>
+        <translation>fehler-%1.csv</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n error(s) saved as %1</source>
+        <translation>
+            <numerusform>%n Fehler als %1 gespeichert</numerusform>
+            <numerusform>%n Fehler als %1 gespeichert</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ExportDialog</name>
+    <message>
+        <source>%1 was not written: %2</source>
+        <comment>path and reason</comment>
+        <translation>%1 wurde nicht geschrieben: %2</translation>
+    </message>
+    <message>
+        <source>Export as CSV</source>
+        <translation>Als CSV exportieren</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>This file exists and will be replaced</source>
+        <translation>Diese Datei gibt es schon; sie wird ersetzt</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Ersetzen</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Exportieren</translation>
     </message>
 </context>
 <context>

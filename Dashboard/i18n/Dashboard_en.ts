@@ -40,6 +40,13 @@
             <numerusform>%n errors copied</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n error(s) saved as %1</source>
+        <translation>
+            <numerusform>%n error saved as %1</numerusform>
+            <numerusform>%n errors saved as %1</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>FilterNotice</name>

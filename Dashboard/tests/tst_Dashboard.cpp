@@ -1,3 +1,4 @@
+#include "FakeFiles.h"
 #include "FakePlugin.h"
 
 #include <QQmlEngine>
@@ -15,6 +16,7 @@ public Q_SLOTS:
     void qmlEngineAvailable(QQmlEngine *engine)
     {
         engine->addImportPath(QStringLiteral("qrc:/qt/qml"));
+        qmlRegisterType<FakeFiles>("Dashboard.Testing", 1, 0, "FakeFiles");
         qmlRegisterType<FakePlugin>("Dashboard.Testing", 1, 0, "FakePlugin");
     }
 };

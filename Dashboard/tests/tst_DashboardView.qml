@@ -2,12 +2,17 @@ import QtQuick
 import QtQuick.Controls.Basic
 import QtTest
 import Dashboard
+import Dashboard.Testing
 
 Item {
     id: root
 
     width: 1400
     height: 800
+
+    FakeFiles {
+        id: host
+    }
 
     Component {
         id: viewComponent
@@ -119,6 +124,15 @@ Item {
             prepare();
             keyClick(Qt.Key_F, Qt.ControlModifier);
             verify(inWindow("Filter by error or device").activeFocus);
+        }
+
+        function test_exportKeySavesTheErrorsShown() {
+            prepare({ "files": host });
+            keyClick(Qt.Key_E, Qt.ControlModifier);
+            tryVerify(() => inWindow("File")?.activeFocus ?? false);
+            keyClick(Qt.Key_Return);
+            tryVerify(() => itemsWhere(view, item => item instanceof NoticeBar)[0].text
+                      === "2 error(s) saved as /home/user/Documents/errors-2024-05-14-140733.csv");
         }
 
         function test_escapeClearsTheFiltersFromAnywhere() {

@@ -63,6 +63,11 @@ void DashboardWindow::setStations(const QVariantList &stations)
     rootObject()->setProperty("stations", stations);
 }
 
+void DashboardWindow::setFiles(QObject &files)
+{
+    rootObject()->setProperty("files", QVariant::fromValue(&files));
+}
+
 bool DashboardWindow::saveImage(const QString &fileName)
 {
     QDir().mkpath(QFileInfo(fileName).absolutePath());

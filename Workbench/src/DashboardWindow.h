@@ -29,6 +29,9 @@ public:
     /// Tells the dashboard of the stations, as stationList() gives them.
     void setStations(const QVariantList &stations);
 
+    /// Hands the dashboard what writes its files; the object must outlive the window.
+    void setFiles(QObject &files);
+
     /// Draws the dashboard as it is now and saves the picture, whose format is that of the file's
     /// suffix. The window must be shown. False when the file cannot be written.
     bool saveImage(const QString &fileName);

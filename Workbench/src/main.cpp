@@ -3,6 +3,7 @@
 #include "DashboardFeed.h"
 #include "DashboardWindow.h"
 #include "Display.h"
+#include "FileExport.h"
 #include "HeadlessRun.h"
 #include "HostError.h"
 #include "InputError.h"
@@ -105,8 +106,10 @@ int play(const Options &options, Catalogues &catalogues)
     if (!engine)
         return playHeadless(workbench, clock, nullptr);
 
+    FileExport files(FileExport::usualFolder());
     DashboardWindow window(*engine, workbench.surface().plugin(), site.name);
     const DashboardFeed feed(workbench.link(), window);
+    window.setFiles(files);
     Screenshot picture(window, options.screenshotFile);
     Screenshot *const screenshot = wantsPicture ? &picture : nullptr;
     if (!isHeadless)

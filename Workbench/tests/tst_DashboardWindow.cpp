@@ -30,6 +30,7 @@ private Q_SLOTS:
     void dashboardFillsTheWindow();
     void tellsOfTheConnection();
     void tellsOfTheStations();
+    void handsOverWhatWritesFiles();
     void savesWhatIsShown();
     void tellsWhenThePictureCannotBeWritten();
     void refusesADashboardThatCannotBeLoaded();
@@ -79,6 +80,16 @@ void tst_DashboardWindow::tellsOfTheStations()
     const QVariantList stations{QVariantMap{{QStringLiteral("stationID"), QStringLiteral("st")}}};
     window.setStations(stations);
     QCOMPARE(window.rootObject()->property("stations").toList(), stations);
+}
+
+void tst_DashboardWindow::handsOverWhatWritesFiles()
+{
+    QQmlEngine engine;
+    QObject plugin;
+    QObject files;
+    DashboardWindow window(engine, plugin, {}, testFile(QStringLiteral("Dashboard.qml")));
+    window.setFiles(files);
+    QCOMPARE(window.rootObject()->property("files").value<QObject *>(), &files);
 }
 
 void tst_DashboardWindow::savesWhatIsShown()

@@ -8,6 +8,7 @@ Item {
     property bool serverConnected: false
     property var connectionSince
     property var stations: []
+    property QtObject files: null
 
     anchors.fill: parent
 
