@@ -14,6 +14,9 @@ Panel {
 
     /// The user wants to see the station of an error.
     signal stationRequested(stationID: string)
+    /// The errors of nodes, a list of {nodeID, type, stationID, device}, are to be snoozed until
+    /// @p seconds since the epoch.
+    signal snoozeAsked(nodes: var, seconds: real)
     /// Something happened that the user should read.
     signal noticed(status: string, text: string)
 
@@ -55,15 +58,26 @@ Panel {
     }
 
     function snoozeUntil(milliseconds: real) {
-        const nodes = [];
-        for (const row of selection.rows()) {
-            const type = selection.value(row, ErrorRoles.errorType);
-            const role = type === ErrorKinds.cameraDisconnected ? ErrorRoles.deviceID
-                                                                : ErrorRoles.stationID;
-            if (ErrorKinds.canBeSnoozed(type))
-                nodes.push({ "nodeID": selection.value(row, role), "type": type });
-        }
-        requests.send(nodes, Math.floor(milliseconds / 1000));
+        const nodes = selection.rows().map(nodeAt).filter(node => ErrorKinds.canBeSnoozed(node.type));
+        const seconds = Math.floor(milliseconds / 1000);
+        const sent = requests.send(nodes, seconds);
+        if (sent.length > 0)
+            snoozeAsked(sent, seconds);
+    }
+
+    /// The camera or station that the error of a row is about.
+    function nodeAt(row: int): var {
+        const type = selection.value(row, ErrorRoles.errorType);
+        const stationID = selection.value(row, ErrorRoles.stationID) ?? "";
+        const deviceID = selection.value(row, ErrorRoles.deviceID) ?? "";
+        const trigger = selection.value(row, ErrorRoles.triggerDeviceName) ?? "";
+        return {
+            "nodeID": type === ErrorKinds.cameraDisconnected ? deviceID : stationID,
+            "type": type,
+            "stationID": stationID,
+            "device": ErrorKinds.deviceName(type, selection.value(row, ErrorRoles.errorCategory) ?? 0,
+                                            deviceID, trigger, directory.nameOf(stationID))
+        };
     }
 
     function askSnoozeMoment() {

@@ -85,6 +85,21 @@
     </message>
 </context>
 <context>
+    <name>DashboardView</name>
+    <message>
+        <source>Overview</source>
+        <translation>Übersicht</translation>
+    </message>
+    <message>
+        <source>Snoozed</source>
+        <translation>Zurückgestellt</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>Protokoll</translation>
+    </message>
+</context>
+<context>
     <name>ErrorActionBar</name>
     <message>
         <source>Snooze</source>
@@ -492,6 +507,95 @@
     </message>
 </context>
 <context>
+    <name>LogPage</name>
+    <message>
+        <source>log-%1.csv</source>
+        <comment>date and time</comment>
+        <translation>protokoll-%1.csv</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entries saved as %1</source>
+        <translation>
+            <numerusform>%n Eintrag als %1 gespeichert</numerusform>
+            <numerusform>%n Einträge als %1 gespeichert</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Operational log</source>
+        <translation>Betriebsprotokoll</translation>
+    </message>
+    <message>
+        <source>newest %1</source>
+        <comment>number of entries</comment>
+        <translation>neueste %1</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Exportieren</translation>
+    </message>
+    <message>
+        <source>Save the entries shown as a CSV file (Ctrl+E)</source>
+        <translation>Die angezeigten Einträge als CSV-Datei speichern (Strg+E)</translation>
+    </message>
+    <message>
+        <source>Search the log</source>
+        <translation>Protokoll durchsuchen</translation>
+    </message>
+    <message>
+        <source>No operational log</source>
+        <translation>Kein Betriebsprotokoll</translation>
+    </message>
+    <message>
+        <source>Nothing matches “%1”</source>
+        <translation>Kein Eintrag enthält „%1“</translation>
+    </message>
+    <message>
+        <source>The log is empty</source>
+        <translation>Das Protokoll ist leer</translation>
+    </message>
+    <message>
+        <source>This program offers the dashboard no operational log.</source>
+        <translation>Dieses Programm stellt der Übersicht kein Betriebsprotokoll bereit.</translation>
+    </message>
+    <message>
+        <source>Press Esc to show all entries.</source>
+        <translation>Esc zeigt wieder alle Einträge.</translation>
+    </message>
+    <message>
+        <source>What operators do stands here.</source>
+        <translation>Hier steht, was an der Anlage getan wurde.</translation>
+    </message>
+    <message>
+        <source>Show %1 more</source>
+        <comment>number of entries</comment>
+        <translation>%1 weitere anzeigen</translation>
+    </message>
+</context>
+<context>
+    <name>LogRow</name>
+    <message>
+        <source>%1, %2: %3</source>
+        <comment>time, entry, details</comment>
+        <translation>%1, %2: %3</translation>
+    </message>
+</context>
+<context>
+    <name>LogSheet</name>
+    <message>
+        <source>Time (%1)</source>
+        <comment>time zone</comment>
+        <translation>Zeit (%1)</translation>
+    </message>
+    <message>
+        <source>Entry</source>
+        <translation>Eintrag</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Einzelheiten</translation>
+    </message>
+</context>
+<context>
     <name>NoticeBar</name>
     <message>
         <source>Dismiss the notice</source>
@@ -616,6 +720,100 @@
     <message>
         <source>Snooze</source>
         <translation>Zurückstellen</translation>
+    </message>
+</context>
+<context>
+    <name>SnoozedPage</name>
+    <message>
+        <source>Snoozed</source>
+        <translation>Zurückgestellt</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n still failing</source>
+        <translation>
+            <numerusform>%n weiter gestört</numerusform>
+            <numerusform>%n weiter gestört</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>As last known: nothing is known since %1.</source>
+        <translation>Letzter bekannter Stand: seit %1 ist nichts bekannt.</translation>
+    </message>
+    <message>
+        <source>As last known: the server is away.</source>
+        <translation>Letzter bekannter Stand: der Server ist nicht erreichbar.</translation>
+    </message>
+    <message>
+        <source>Only what was snoozed here is listed; what others snoozed is not known.</source>
+        <translation>Hier steht nur, was von hier aus zurückgestellt wurde; was andere zurückgestellt haben, ist nicht bekannt.</translation>
+    </message>
+    <message>
+        <source>Nothing is snoozed</source>
+        <translation>Nichts ist zurückgestellt</translation>
+    </message>
+    <message>
+        <source>No snooze is known</source>
+        <translation>Keine Zurückstellung bekannt</translation>
+    </message>
+    <message>
+        <source>Errors that are snoozed stand here until they come back.</source>
+        <translation>Zurückgestellte Fehler stehen hier, bis sie wiederkommen.</translation>
+    </message>
+</context>
+<context>
+    <name>SnoozedRow</name>
+    <message>
+        <source>Camera disconnected</source>
+        <translation>Kamera getrennt</translation>
+    </message>
+    <message>
+        <source>Station disconnected</source>
+        <translation>Station getrennt</translation>
+    </message>
+    <message>
+        <source>Still failing</source>
+        <translation>Weiter gestört</translation>
+    </message>
+    <message>
+        <source>Asked for</source>
+        <translation>Angefragt</translation>
+    </message>
+    <message>
+        <source>Snoozed</source>
+        <translation>Zurückgestellt</translation>
+    </message>
+    <message>
+        <source>here at %1</source>
+        <translation>hier um %1</translation>
+    </message>
+    <message>
+        <source>not from here</source>
+        <translation>nicht von hier</translation>
+    </message>
+    <message>
+        <source>over for %1</source>
+        <translation>vorbei seit %1</translation>
+    </message>
+    <message>
+        <source>not confirmed</source>
+        <translation>nicht bestätigt</translation>
+    </message>
+    <message>
+        <source>due</source>
+        <translation>fällig</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <translation>noch %1</translation>
+    </message>
+    <message>
+        <source>until %1</source>
+        <translation>bis %1</translation>
+    </message>
+    <message>
+        <source>%1: %2, %3, %4, %5, %6, asked %7</source>
+        <comment>state, device, error, station, time left, time, request</comment>
+        <translation>%1: %2, %3, %4, %5, %6, angefragt %7</translation>
     </message>
 </context>
 <context>

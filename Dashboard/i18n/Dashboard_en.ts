@@ -67,6 +67,16 @@
     </message>
 </context>
 <context>
+    <name>LogPage</name>
+    <message numerus="yes">
+        <source>%n entries saved as %1</source>
+        <translation>
+            <numerusform>%n entry saved as %1</numerusform>
+            <numerusform>%n entries saved as %1</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>SnoozeRequests</name>
     <message numerus="yes">
         <source>%n error(s) snoozed</source>
@@ -101,6 +111,16 @@
         <translation>
             <numerusform>No answer to %n snooze</numerusform>
             <numerusform>No answer to %n snoozes</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>SnoozedPage</name>
+    <message numerus="yes">
+        <source>%n still failing</source>
+        <translation>
+            <numerusform>%n still failing</numerusform>
+            <numerusform>%n still failing</numerusform>
         </translation>
     </message>
 </context>

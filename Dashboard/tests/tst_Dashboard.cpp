@@ -1,4 +1,5 @@
 #include "FakeFiles.h"
+#include "FakeLog.h"
 #include "FakePlugin.h"
 
 #include <QQmlEngine>
@@ -17,6 +18,7 @@ public Q_SLOTS:
     {
         engine->addImportPath(QStringLiteral("qrc:/qt/qml"));
         qmlRegisterType<FakeFiles>("Dashboard.Testing", 1, 0, "FakeFiles");
+        qmlRegisterType<FakeLog>("Dashboard.Testing", 1, 0, "FakeLog");
         qmlRegisterType<FakePlugin>("Dashboard.Testing", 1, 0, "FakePlugin");
     }
 };

@@ -252,6 +252,22 @@ Item {
                                    "setSnooze st10/c2 " + end + " 3", "setSnooze st2 " + end + " 4"]);
         }
 
+        function test_tellsWhichNodesAreToBeSnoozed() {
+            prepare();
+            const asked = spyOn(pane, "snoozeAsked");
+            pane.selection.selectAll();
+            pane.snoozeFor(60);
+            compare(asked.signalArguments[0][0], [
+                { "nodeID": "st1/c1", "type": 3, "stationID": "st1", "device": "Door 1" },
+                { "nodeID": "st10/c2", "type": 3, "stationID": "st10", "device": "Gate+2" },
+                { "nodeID": "st2", "type": 4, "stationID": "st2", "device": "Parking" }
+            ]);
+            compare(asked.signalArguments[0][1], now / 1000 + 60);
+            plugin.accepting = false;
+            pane.snoozeFor(60);
+            compare(asked.count, 1);
+        }
+
         function test_snoozeByKeyboard() {
             prepare();
             keyClick(Qt.Key_Home);
