@@ -248,6 +248,13 @@
     </message>
 </context>
 <context>
+    <name>OperationalLogReader</name>
+    <message>
+        <source>Error snoozed</source>
+        <translation>Fehler zurückgestellt</translation>
+    </message>
+</context>
+<context>
     <name>OperationalLogStore</name>
     <message>
         <source>%1: cannot be used for the operational log: %2</source>
@@ -381,6 +388,13 @@ Rückgabewerte: 0 alles ging gut, 1 die Arbeit war nicht möglich, 2 eine Option
     <message>
         <source>The plug-in has no signal %1.</source>
         <translation>Das Plug-in hat kein Signal %1.</translation>
+    </message>
+</context>
+<context>
+    <name>Preferences</name>
+    <message>
+        <source>%1 cannot be written</source>
+        <translation>%1 kann nicht geschrieben werden</translation>
     </message>
 </context>
 <context>

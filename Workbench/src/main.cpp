@@ -7,8 +7,10 @@
 #include "HeadlessRun.h"
 #include "HostError.h"
 #include "InputError.h"
+#include "OperationalLogReader.h"
 #include "Options.h"
 #include "PluginHost.h"
+#include "Preferences.h"
 #include "ScaledClock.h"
 #include "ScenarioFile.h"
 #include "Screenshot.h"
@@ -107,9 +109,15 @@ int play(const Options &options, Catalogues &catalogues)
         return playHeadless(workbench, clock, nullptr);
 
     FileExport files(FileExport::usualFolder());
+    OperationalLogReader logReader(log, workbench.logPlugin());
+    Preferences preferences(isHeadless ? QString() : Preferences::usualFile());
     DashboardWindow window(*engine, workbench.surface().plugin(), site.name);
     const DashboardFeed feed(workbench.link(), window);
     window.setFiles(files);
+    window.setOperationalLog(logReader);
+    window.setDark(preferences.isDark());
+    QObject::connect(&window, &DashboardWindow::darkChanged,
+                     [&preferences](bool isDark) { preferences.setDark(isDark); });
     Screenshot picture(window, options.screenshotFile);
     Screenshot *const screenshot = wantsPicture ? &picture : nullptr;
     if (!isHeadless)
