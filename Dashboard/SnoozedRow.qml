@@ -1,7 +1,7 @@
 import QtQuick
 
 /// One snooze: its state and who asked for it; the device and its error; the station; what is left
-/// of it and until when. In a narrow list the station stands behind the error.
+/// of it and until when. In a narrow list the station stands before the error.
 Item {
     id: row
 
@@ -26,17 +26,20 @@ Item {
     readonly property string error: modelData.type === ErrorKinds.cameraDisconnected
                                     ? qsTr("Camera disconnected") : qsTr("Station disconnected")
     readonly property string stateText: progress === "failing" ? qsTr("Still failing")
-                                                            : progress === "asked" ? qsTr("Asked for")
+                                                            : progress === "asked" ? qsTr("Not confirmed")
                                                                                 : qsTr("Snoozed")
-    readonly property string request: modelData.askedAt > 0
-                                      ? qsTr("here at %1").arg(Format.recentTime(modelData.askedAt,
-                                                                                 Clock.now))
-                                      : qsTr("not from here")
+    readonly property string request: {
+        if (modelData.askedAt === 0)
+            return qsTr("asked elsewhere");
+        if (narrow)
+            return qsTr("asked here");
+        return qsTr("asked here %1", "time").arg(Format.recentTime(modelData.askedAt, Clock.now));
+    }
     readonly property string remaining: {
         if (progress === "failing")
             return qsTr("over for %1").arg(Format.age(modelData.endedAt, Clock.now));
         if (progress === "asked")
-            return qsTr("not confirmed");
+            return qsTr("waiting");
         return modelData.until <= Clock.now
                 ? qsTr("due") : qsTr("%1 left").arg(Format.duration((modelData.until - Clock.now) / 1000));
     }
@@ -48,7 +51,7 @@ Item {
     height: Theme.em(3.6)
 
     Accessible.role: Accessible.ListItem
-    Accessible.name: Format.fill(qsTr("%1: %2, %3, %4, %5, %6, asked %7",
+    Accessible.name: Format.fill(qsTr("%1: %2, %3, %4, %5, %6, %7",
                                       "state, device, error, station, time left, time, request"),
                                  stateText, device, error, stationName, remaining, until, request)
     Accessible.focusable: true
@@ -125,7 +128,7 @@ Item {
         id: stateLines
 
         x: mark.x + mark.width + Theme.gap
-        width: Theme.em(row.narrow ? 11 : 13)
+        width: Theme.em(row.narrow ? 11 : 15)
         first: row.stateText
         firstColor: row.progress === "failing" ? Theme.critical : Theme.text
         second: row.request
@@ -138,7 +141,7 @@ Item {
         width: row.narrow ? timeLines.x - Theme.pad - x
                           : (timeLines.x - 2 * Theme.pad - x) * 0.55
         first: row.device
-        second: row.narrow && row.device !== row.stationName ? row.error + " · " + row.stationName
+        second: row.narrow && row.device !== row.stationName ? row.stationName + " · " + row.error
                                                              : row.error
     }
 

@@ -775,28 +775,12 @@
         <translation>Weiter gestört</translation>
     </message>
     <message>
-        <source>Asked for</source>
-        <translation>Angefragt</translation>
-    </message>
-    <message>
         <source>Snoozed</source>
         <translation>Zurückgestellt</translation>
     </message>
     <message>
-        <source>here at %1</source>
-        <translation>hier um %1</translation>
-    </message>
-    <message>
-        <source>not from here</source>
-        <translation>nicht von hier</translation>
-    </message>
-    <message>
         <source>over for %1</source>
         <translation>vorbei seit %1</translation>
-    </message>
-    <message>
-        <source>not confirmed</source>
-        <translation>nicht bestätigt</translation>
     </message>
     <message>
         <source>due</source>
@@ -811,9 +795,30 @@
         <translation>bis %1</translation>
     </message>
     <message>
-        <source>%1: %2, %3, %4, %5, %6, asked %7</source>
+        <source>asked elsewhere</source>
+        <translation>anderswo angefragt</translation>
+    </message>
+    <message>
+        <source>asked here</source>
+        <translation>hier angefragt</translation>
+    </message>
+    <message>
+        <source>asked here %1</source>
+        <comment>time</comment>
+        <translation>hier angefragt %1</translation>
+    </message>
+    <message>
+        <source>%1: %2, %3, %4, %5, %6, %7</source>
         <comment>state, device, error, station, time left, time, request</comment>
-        <translation>%1: %2, %3, %4, %5, %6, angefragt %7</translation>
+        <translation>%1: %2, %3, %4, %5, %6, %7</translation>
+    </message>
+    <message>
+        <source>Not confirmed</source>
+        <translation>Nicht bestätigt</translation>
+    </message>
+    <message>
+        <source>waiting</source>
+        <translation>wartet</translation>
     </message>
 </context>
 <context>

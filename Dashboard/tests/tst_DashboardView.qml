@@ -223,7 +223,7 @@ Item {
             plugin.removeError("3_b/1");
             tryVerify(() => inWindow("Snoozed 1") !== null);
             click("Snoozed 1");
-            verify(hasText(view, "here at 14:07:33 CEST"));
+            verify(hasText(view, "asked here 14:07:33 CEST"));
         }
 
         function test_snoozesLeadToTheirStation() {

@@ -65,9 +65,9 @@ Item {
         function test_tellsWhatIsSnoozedUntilWhenAndByWhom() {
             prepare([snooze("st1/c1", 3, now + 52 * minute), snooze("st1", 4, now + 26 * hour)]);
             verify(inWindow("Snoozed: c1, Camera disconnected, Lobby, 52 min left,"
-                            + " until 14:59:33 CEST, asked not from here"));
+                            + " until 14:59:33 CEST, asked elsewhere"));
             verify(inWindow("Snoozed: Lobby, Station disconnected, Lobby, 1 d 2 h left,"
-                            + " until 05-15 16:07 CEST, asked not from here"));
+                            + " until 05-15 16:07 CEST, asked elsewhere"));
             verify(hasText(page, "2"));
         }
 
@@ -76,8 +76,8 @@ Item {
             raise();
             book.take([{ "nodeID": "st1/c1", "type": 3, "stationID": "st1", "device": "Door 1" }],
                       (now + hour) / 1000);
-            tryVerify(() => inWindow("Asked for: Door 1, Camera disconnected, Lobby, not confirmed,"
-                                     + " until 15:07:33 CEST, asked here at 14:07:33 CEST"));
+            tryVerify(() => inWindow("Not confirmed: Door 1, Camera disconnected, Lobby, waiting,"
+                                     + " until 15:07:33 CEST, asked here 14:07:33 CEST"));
         }
 
         function test_whatStillFailsIsMarked() {
@@ -132,7 +132,7 @@ Item {
             verify(hasText(page, "Camera disconnected"));
             page.anchors.fill = undefined;
             page.width = Theme.em(50);
-            tryVerify(() => hasText(page, "Camera disconnected · Lobby"));
+            tryVerify(() => hasText(page, "Lobby · Camera disconnected"));
         }
 
         function test_onlyRowsInSightAreMade() {
