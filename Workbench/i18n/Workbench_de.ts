@@ -355,6 +355,14 @@ Exit codes: 0 all went well, 1 the work could not be done, 2 an option or a file
 
 Rückgabewerte: 0 alles ging gut, 1 die Arbeit war nicht möglich, 2 eine Option oder eine Datei ist falsch.</translation>
     </message>
+    <message>
+        <source>Show this QML file instead of the dashboard, with the same properties.</source>
+        <translation>Diese QML-Datei statt der Übersicht zeigen, mit denselben Eigenschaften.</translation>
+    </message>
+    <message>
+        <source>--page: expected a QML file, found &quot;%1&quot;.</source>
+        <translation>--page: erwartet: eine QML-Datei, gefunden: „%1“.</translation>
+    </message>
 </context>
 <context>
     <name>PluginHost</name>

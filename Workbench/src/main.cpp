@@ -18,6 +18,7 @@
 #include "WindowRun.h"
 #include "Workbench.h"
 
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QProcessEnvironment>
 #include <QQmlEngine>
@@ -80,6 +81,13 @@ QString logFile(const Options &options)
            + QStringLiteral("/operational-log.sqlite");
 }
 
+QUrl pageUrl(const Options &options)
+{
+    return options.pageFile.isEmpty()
+               ? DashboardWindow::dashboardUrl()
+               : QUrl::fromLocalFile(QFileInfo(options.pageFile).absoluteFilePath());
+}
+
 int playHeadless(Workbench &workbench, const Clock &clock, Screenshot *screenshot)
 {
     QTextStream out(stdout);
@@ -111,7 +119,7 @@ int play(const Options &options, Catalogues &catalogues)
     FileExport files(FileExport::usualFolder());
     OperationalLogReader logReader(log, workbench.logPlugin());
     Preferences preferences(isHeadless ? QString() : Preferences::usualFile());
-    DashboardWindow window(*engine, workbench.surface().plugin(), site.name);
+    DashboardWindow window(*engine, workbench.surface().plugin(), site.name, pageUrl(options));
     const DashboardFeed feed(workbench.link(), window);
     window.setFiles(files);
     window.setOperationalLog(logReader);
