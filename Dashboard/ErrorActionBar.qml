@@ -22,7 +22,7 @@ RowLayout {
 
     // Where room is short, the drawings stand alone, those of the lesser actions first.
     readonly property bool narrow: width < Theme.em(44)
-    readonly property bool crowded: width < Theme.em(58)
+    readonly property bool crowded: width - numbersLabel.implicitWidth < Theme.em(50)
     readonly property string snoozeText: selection.snoozableCount === 0
                                          ? qsTr("Snooze")
                                          : qsTr("Snooze %1", "number of errors")
@@ -42,6 +42,8 @@ RowLayout {
     }
 
     PlainLabel {
+        id: numbersLabel
+
         Layout.fillWidth: true
         readonly property string numbers: !bar.serverConnected && bar.total === 0
                                           ? qsTr("unknown")

@@ -27,9 +27,8 @@ QtObject {
     /// Local date and time below a heading that names @p zone; a time in another zone, as half a
     /// year has it, names its own.
     function timeInZone(milliseconds: real, zone: string): string {
-        const date = new Date(milliseconds);
-        const own = Qt.formatDateTime(date, "t");
-        return Qt.formatDateTime(date, "yyyy-MM-dd hh:mm:ss") + (own === zone ? "" : " " + own);
+        const full = dateTime(milliseconds);
+        return full.endsWith(" " + zone) ? full.slice(0, -zone.length - 1) : full;
     }
 
     /// Local date and time as part of a file's name.
