@@ -3,8 +3,8 @@ import QtQuick
 /// The health dashboard of a site, shown from the plug-in's surface and from what the host knows
 /// about the site.
 ///
-/// Keys: Ctrl+F goes to the text filter, Esc clears the filters; see also ErrorTable and
-/// StationsPane.
+/// Keys: Ctrl+Page Down and Ctrl+Page Up turn the pages, Ctrl+F goes to the text filter, Esc clears
+/// the filters, Ctrl+E exports; see also ErrorTable and StationsPane.
 FocusScope {
     id: root
 
@@ -17,20 +17,101 @@ FocusScope {
     /// List of {stationID, name, parentID, connected}; parentID is empty for a top-level station.
     property var stations: []
 
+    /// The server's snoozes: a list of {nodeID, type, until, name}, where type is the kind of the
+    /// error, until is in milliseconds since the epoch and name, the device's, may be missing.
+    /// Undefined when the host does not know them.
+    property var snoozes
+
+    /// Writes files for the dashboard, or null, which takes the export away. It offers
+    /// `resolve(path)`, the absolute path of a name or path; `exists(path)`; and
+    /// `write(path, text)`, which writes a file whole or not at all and returns an empty text or
+    /// the reason why that failed.
+    property QtObject files: null
+
+    /// Reads the operational log, or null. It offers `newest(limit, text)`, which returns the newest
+    /// entries first, up to a limit, as a list of {time, name, parameters}: milliseconds since the
+    /// epoch, a text, a list of texts. With a text, name or parameters contain it, whatever the
+    /// case. The signal `changed()` tells of new entries.
+    property QtObject operationalLog: null
+
+    /// Whether the colours are dark. The user may change it, and the host may remember it.
+    property bool dark: Theme.dark
+
+    /// The page shown: "overview", "snoozed" or "log".
+    property string page: "overview"
+
     readonly property var knownSince: connectionSince && !isNaN(connectionSince.getTime())
                                       ? connectionSince : undefined
 
     // What it offers is known only at run time.
     readonly property var surface: plugin
 
+    readonly property bool isSplit: overview.arrangement === "single"
+    readonly property var tabs: [
+        ...(isSplit ? overview.panes
+                    : [{ "key": "overview", "text": qsTr("Overview"), "glyph": "overview" }]),
+        { "key": "snoozed", "text": qsTr("Snoozed"), "glyph": "snoozed" },
+        { "key": "log", "text": qsTr("Log"), "glyph": "log" }
+    ]
+
+    /// Shows what a tab stands for: a page, or a pane of the overview.
+    function show(key: string) {
+        const isPane = overview.panes.some(pane => pane.key === key);
+        if (isPane)
+            overview.pane = key;
+        page = isPane ? "overview" : key;
+    }
+
     anchors.fill: parent
     focus: true
+    onDarkChanged: Theme.dark = dark
+    Component.onCompleted: Theme.dark = dark
 
-    Keys.onEscapePressed: overview.clearFilters()
+    Connections {
+        target: Theme
+
+        function onDarkChanged() {
+            root.dark = Theme.dark;
+        }
+    }
+
+    Keys.onEscapePressed: {
+        if (page === "log")
+            log.clearFilters();
+        else
+            overview.clearFilters();
+    }
 
     Shortcut {
         sequence: "Ctrl+F"
-        onActivated: overview.showTextFilter()
+        onActivated: {
+            if (root.page === "log" && root.operationalLog) {
+                log.focusTextFilter();
+            } else {
+                root.page = "overview";
+                overview.showTextFilter();
+            }
+        }
+    }
+
+    Shortcut {
+        sequence: "Ctrl+E"
+        onActivated: {
+            if (root.page === "log")
+                log.exportShown();
+            else if (root.page === "overview")
+                overview.exportShown();
+        }
+    }
+
+    Shortcut {
+        sequence: "Ctrl+PgDown"
+        onActivated: strip.step(1)
+    }
+
+    Shortcut {
+        sequence: "Ctrl+PgUp"
+        onActivated: strip.step(-1)
     }
 
     StationDirectory {
@@ -38,6 +119,13 @@ FocusScope {
 
         stations: root.stations
         errorCounts: root.surface?.stationErrorList ?? []
+    }
+
+    SnoozeBook {
+        id: book
+
+        surface: root.surface
+        serverList: root.snoozes
     }
 
     Rectangle {
@@ -62,18 +150,68 @@ FocusScope {
         surface: root.surface
     }
 
-    OverviewPage {
-        id: overview
+    TabStrip {
+        id: strip
 
         anchors.top: banner.bottom
+        anchors.topMargin: Theme.em(0.3)
+        x: Theme.gap
+        bare: root.width < Theme.em(46)
+        tabs: root.tabs
+        current: root.page === "overview" && root.isSplit ? overview.pane : root.page
+        numbers: ({ "snoozed": book.snoozedCount + book.failingCount })
+        onChosen: key => root.show(key)
+    }
+
+    FocusScope {
+        id: pages
+
+        anchors.top: strip.bottom
         anchors.bottom: parent.bottom
         width: parent.width
         focus: true
-        surface: root.surface
-        directory: directory
-        serverConnected: root.serverConnected
-        connectionSince: root.knownSince
-        onNoticed: (status, text) => notice.show(status, text)
+
+        OverviewPage {
+            id: overview
+
+            anchors.fill: parent
+            visible: root.page === "overview"
+            focus: true
+            surface: root.surface
+            directory: directory
+            serverConnected: root.serverConnected
+            connectionSince: root.knownSince
+            files: root.files
+            onNoticed: (status, text) => notice.show(status, text)
+            onSnoozeAsked: (nodes, seconds) => book.take(nodes, seconds)
+            onKeyboardLost: strip.focusCurrent()
+        }
+
+        SnoozedPage {
+            anchors.fill: parent
+            anchors.margins: Theme.gap
+            visible: root.page === "snoozed"
+            book: book
+            directory: directory
+            serverConnected: root.serverConnected
+            connectionSince: root.knownSince
+            onStationRequested: stationID => {
+                root.page = "overview";
+                overview.showStation(stationID);
+                strip.focusCurrent();
+            }
+        }
+
+        LogPage {
+            id: log
+
+            anchors.fill: parent
+            anchors.margins: Theme.gap
+            visible: root.page === "log"
+            log: root.operationalLog
+            files: root.files
+            onNoticed: (status, text) => notice.show(status, text)
+        }
     }
 
     NoticeBar {

@@ -9,15 +9,20 @@ RowLayout {
     property int shown: 0
     property int total: 0
     property bool serverConnected: false
+    /// Whether what is shown can be saved as a file.
+    property bool canExport: false
     readonly property bool canSnooze: serverConnected && selection.snoozableCount > 0
 
     signal snoozeChosen(seconds: int)
     signal snoozeMomentWanted
     signal copyChosen
+    signal exportChosen
     signal reconnectCamerasChosen
     signal reconnectSubstationsChosen
 
+    // Where room is short, the drawings stand alone, those of the lesser actions first.
     readonly property bool narrow: width < Theme.em(44)
+    readonly property bool crowded: width - numbersLabel.implicitWidth < Theme.em(50)
     readonly property string snoozeText: selection.snoozableCount === 0
                                          ? qsTr("Snooze")
                                          : qsTr("Snooze %1", "number of errors")
@@ -37,6 +42,8 @@ RowLayout {
     }
 
     PlainLabel {
+        id: numbersLabel
+
         Layout.fillWidth: true
         readonly property string numbers: !bar.serverConnected && bar.total === 0
                                           ? qsTr("unknown")
@@ -72,11 +79,20 @@ RowLayout {
     }
 
     ActionButton {
-        text: bar.narrow ? "" : qsTr("Copy")
+        text: bar.crowded ? "" : qsTr("Copy")
         glyph: "copy"
         enabled: bar.selection.count > 0
         hint: qsTr("Copy the selected errors (Ctrl+C)")
         onClicked: bar.copyChosen()
+    }
+
+    ActionButton {
+        visible: bar.canExport
+        text: bar.crowded ? "" : qsTr("Export")
+        glyph: "export"
+        enabled: bar.shown > 0
+        hint: qsTr("Save the errors shown as a CSV file (Ctrl+E)")
+        onClicked: bar.exportChosen()
     }
 
     ActionButton {

@@ -9,9 +9,14 @@ Panel {
     required property StationDirectory directory
     property bool serverConnected: false
     property var connectionSince
+    /// What writes files for the dashboard, or null; see DashboardView.files.
+    property var files: null
 
     /// The user wants to see the station of an error.
     signal stationRequested(stationID: string)
+    /// The errors of nodes, a list of {nodeID, type, stationID, device}, are to be snoozed until
+    /// @p seconds since the epoch.
+    signal snoozeAsked(nodes: var, seconds: real)
     /// Something happened that the user should read.
     signal noticed(status: string, text: string)
 
@@ -31,6 +36,10 @@ Panel {
     readonly property RowCounter total: RowCounter {
         model: pane.surface ? pane.surface.getSystemErrorModel() : null
     }
+    readonly property ErrorSheet sheet: ErrorSheet {
+        proxy: pane.proxy
+        directory: pane.directory
+    }
     readonly property SnoozeRequests requests: SnoozeRequests {
         surface: pane.surface
         onUpdated: pane.noticed(status, summary)
@@ -49,15 +58,26 @@ Panel {
     }
 
     function snoozeUntil(milliseconds: real) {
-        const nodes = [];
-        for (const row of selection.rows()) {
-            const type = selection.value(row, ErrorRoles.errorType);
-            const role = type === ErrorKinds.cameraDisconnected ? ErrorRoles.deviceID
-                                                                : ErrorRoles.stationID;
-            if (ErrorKinds.canBeSnoozed(type))
-                nodes.push({ "nodeID": selection.value(row, role), "type": type });
-        }
-        requests.send(nodes, Math.floor(milliseconds / 1000));
+        const nodes = selection.rows().map(nodeAt).filter(node => ErrorKinds.canBeSnoozed(node.type));
+        const seconds = Math.floor(milliseconds / 1000);
+        const sent = requests.send(nodes, seconds);
+        if (sent.length > 0)
+            snoozeAsked(sent, seconds);
+    }
+
+    /// The camera or station that the error of a row is about.
+    function nodeAt(row: int): var {
+        const type = selection.value(row, ErrorRoles.errorType);
+        const stationID = selection.value(row, ErrorRoles.stationID) ?? "";
+        const deviceID = selection.value(row, ErrorRoles.deviceID) ?? "";
+        const trigger = selection.value(row, ErrorRoles.triggerDeviceName) ?? "";
+        return {
+            "nodeID": type === ErrorKinds.cameraDisconnected ? deviceID : stationID,
+            "type": type,
+            "stationID": stationID,
+            "device": ErrorKinds.deviceName(type, selection.value(row, ErrorRoles.errorCategory) ?? 0,
+                                            deviceID, trigger, directory.nameOf(stationID))
+        };
     }
 
     function askSnoozeMoment() {
@@ -83,6 +103,13 @@ Panel {
         noticed("good", qsTr("%n error(s) copied", "", rows.length));
     }
 
+    /// Asks where to save what the list shows; does nothing when that cannot be done.
+    function exportShown() {
+        if (files && shown.count > 0)
+            exportDialog.ask(qsTr("errors-%1.csv", "date and time").arg(Format.fileStamp(Clock.now)),
+                             sheet);
+    }
+
     function reconnectCameras() {
         surface.reconnectDisconnectCameras();
         noticed("good", qsTr("Asked to reconnect all disconnected cameras"));
@@ -101,6 +128,14 @@ Panel {
         id: snoozeDialog
 
         onChosen: milliseconds => pane.snoozeUntil(milliseconds)
+    }
+
+    ExportDialog {
+        id: exportDialog
+
+        files: pane.files
+        onSaved: (path, count) => pane.noticed("good", Format.fill(
+                                                   qsTr("%n error(s) saved as %1", "", count), path))
     }
 
     ErrorMenu {
@@ -127,9 +162,11 @@ Panel {
             shown: pane.shown.count
             total: pane.total.count
             serverConnected: pane.serverConnected
+            canExport: pane.files !== null
             onSnoozeChosen: seconds => pane.snoozeFor(seconds)
             onSnoozeMomentWanted: pane.askSnoozeMoment()
             onCopyChosen: pane.copySelection()
+            onExportChosen: pane.exportShown()
             onReconnectCamerasChosen: pane.reconnectCameras()
             onReconnectSubstationsChosen: pane.reconnectSubstations()
         }

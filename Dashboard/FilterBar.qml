@@ -11,8 +11,7 @@ Flow {
     readonly property bool onOneLine: restWidth >= Theme.em(9)
 
     function focusText() {
-        field.forceActiveFocus(Qt.ShortcutFocusReason);
-        field.selectAll();
+        field.start();
     }
 
     spacing: Theme.gap
@@ -39,50 +38,21 @@ Flow {
         onChosen: stationID => bar.filters.stationID = stationID
     }
 
-    ThemedTextField {
+    SearchField {
         id: field
 
         width: bar.onOneLine ? bar.restWidth : bar.width
-        leftPadding: Theme.em(2.2)
         placeholderText: qsTr("Filter by error or device")
-        onTextEdited: typing.restart()
-        onEditingFinished: typing.finish()
-
-        Glyph {
-            x: Theme.gap
-            anchors.verticalCenter: parent.verticalCenter
-            name: "search"
-            color: Theme.mutedText
-        }
-    }
-
-    // A long list is not filtered anew for every letter of a quick typist.
-    Timer {
-        id: typing
-
-        interval: 150
-        onTriggered: bar.filters.text = field.text
-
-        function finish() {
-            if (!running)
-                return;
-            stop();
-            bar.filters.text = field.text;
-        }
+        applied: bar.filters.text
+        onSearched: text => bar.filters.text = text
     }
 
     Connections {
         target: bar.filters
 
-        function onTextChanged() {
-            typing.stop();
-            field.text = bar.filters.text;
-        }
-
         // There may be text that was typed but not applied yet.
         function onCleared() {
-            typing.stop();
-            field.clear();
+            field.reset();
         }
     }
 }

@@ -19,6 +19,23 @@ QtObject {
         return Qt.formatDateTime(new Date(milliseconds), "yyyy-MM-dd hh:mm:ss t");
     }
 
+    /// The short name of the local time zone at a moment.
+    function zone(milliseconds: real): string {
+        return Qt.formatDateTime(new Date(milliseconds), "t");
+    }
+
+    /// Local date and time below a heading that names @p zone; a time in another zone, as half a
+    /// year has it, names its own.
+    function timeInZone(milliseconds: real, zone: string): string {
+        const full = dateTime(milliseconds);
+        return full.endsWith(" " + zone) ? full.slice(0, -zone.length - 1) : full;
+    }
+
+    /// Local date and time as part of a file's name.
+    function fileStamp(milliseconds: real): string {
+        return Qt.formatDateTime(new Date(milliseconds), "yyyy-MM-dd-hhmmss");
+    }
+
     /// As dateTime(), but short: without what it has in common with @p now, and no more exact than
     /// its age is worth.
     function recentTime(milliseconds: real, now: real): string {

@@ -1,7 +1,7 @@
 import QtQuick
 
 /// The page with what is wrong now: errors, stations and usage. There is room for all three side by
-/// side, for the errors and one of the others, or for one at a time.
+/// side, for the errors and one of the others, or for one at a time, which its owner has tabs for.
 FocusScope {
     id: page
 
@@ -9,24 +9,30 @@ FocusScope {
     required property StationDirectory directory
     property bool serverConnected: false
     property var connectionSince
+    property var files: null
+
+    /// The pane to show where there is no room for all: "errors", "stations" or "usage".
+    property string pane: "errors"
 
     /// Something happened that the user should read.
     signal noticed(status: string, text: string)
+    /// The errors of nodes, a list of {nodeID, type, stationID, device}, are to be snoozed until
+    /// @p seconds since the epoch.
+    signal snoozeAsked(nodes: var, seconds: real)
+    /// The pane with the keyboard has gone.
+    signal keyboardLost
 
     readonly property string arrangement: width >= Theme.em(92) ? "columns"
                                                                 : width >= Theme.em(60) ? "side"
                                                                                         : "single"
-    readonly property bool hasTabs: arrangement !== "columns"
-    readonly property var sideTabs: [{ "text": qsTr("Stations"), "glyph": "station" },
-                                     { "text": qsTr("Usage"), "glyph": "computer" }]
-    readonly property var singleTabs: [{ "text": qsTr("Errors"), "glyph": "errors" }, ...sideTabs]
-    /// The pane that the tabs show: 0 errors, 1 stations, 2 usage.
-    readonly property int chosenPane: arrangement === "single" ? tabs.currentIndex
-                                                               : tabs.currentIndex + 1
+    readonly property var panes: [{ "key": "errors", "text": qsTr("Errors"), "glyph": "errors" },
+                                  { "key": "stations", "text": qsTr("Stations"), "glyph": "station" },
+                                  { "key": "usage", "text": qsTr("Usage"), "glyph": "computer" }]
+    /// What stands beside the errors, where there is room for one of them.
+    readonly property string sidePane: pane === "usage" ? "usage" : "stations"
 
     readonly property real margin: Theme.gap
-    readonly property real paneTop: margin + (arrangement === "single" ? tabs.height + margin : 0)
-    readonly property real paneHeight: height - paneTop - margin
+    readonly property real paneHeight: height - 2 * margin
     readonly property real innerWidth: width - 2 * margin
     readonly property real stationsWidth: Math.min(Theme.em(26), Math.max(Theme.em(19), width * 0.16))
     readonly property real usageWidth: Math.min(Theme.em(40), Math.max(Theme.em(21.5), width * 0.22))
@@ -39,10 +45,10 @@ FocusScope {
     function showStation(stationID: string) {
         surface.focusStationResource = stationID;
         support.ask(stationID);
-        if (!hasTabs)
-            return;
-        tabs.currentIndex = tabs.tabs.length - 1;
-        if (arrangement === "single" || !errors.hasFocus)
+        pane = "usage";
+        if (arrangement === "single")
+            keyboardLost();
+        else if (arrangement === "side" && !errors.hasFocus)
             tabs.focusCurrent();
     }
 
@@ -59,32 +65,39 @@ FocusScope {
 
     function showErrors() {
         if (arrangement === "single")
-            tabs.currentIndex = 0;
+            pane = "errors";
     }
 
     function clearFilters() {
         errors.filters.clear();
     }
 
-    onArrangementChanged: tabs.currentIndex = 0
+    function exportShown() {
+        errors.exportShown();
+    }
+
+    onArrangementChanged: pane = "errors"
 
     TabStrip {
         id: tabs
 
-        visible: page.hasTabs
-        x: page.arrangement === "side" ? usage.x : page.margin
+        visible: page.arrangement === "side"
+        x: usage.x
         y: page.margin
-        tabs: page.arrangement === "single" ? page.singleTabs : page.sideTabs
+        tabs: page.panes.slice(1)
+        current: page.sidePane
+        onChosen: key => page.pane = key
     }
 
     StationsPane {
         id: stations
 
         x: page.arrangement === "side" ? usage.x : page.margin
-        y: page.arrangement === "side" ? usage.y : page.paneTop
+        y: page.arrangement === "side" ? usage.y : page.margin
         width: page.arrangement === "columns" ? page.stationsWidth : usage.width
         height: page.arrangement === "side" ? usage.height : page.paneHeight
-        visible: !page.hasTabs || page.chosenPane === 1
+        visible: page.arrangement === "columns"
+                 || (page.arrangement === "side" ? page.sidePane : page.pane) === "stations"
         directory: page.directory
         support: page.support
         serverConnected: page.serverConnected
@@ -97,26 +110,28 @@ FocusScope {
         id: errors
 
         x: page.arrangement === "columns" ? stations.x + stations.width + page.margin : page.margin
-        y: page.paneTop
+        y: page.margin
         width: page.arrangement === "single" ? page.innerWidth : usage.x - page.margin - x
         height: page.paneHeight
-        visible: page.arrangement !== "single" || page.chosenPane === 0
+        visible: page.arrangement !== "single" || page.pane === "errors"
         surface: page.surface
         directory: page.directory
         serverConnected: page.serverConnected
         connectionSince: page.connectionSince
+        files: page.files
         onStationRequested: stationID => page.showStation(stationID)
         onNoticed: (status, text) => page.noticed(status, text)
+        onSnoozeAsked: (nodes, seconds) => page.snoozeAsked(nodes, seconds)
     }
 
     Item {
         id: usage
 
         x: page.width - width - page.margin
-        y: page.arrangement === "side" ? page.margin + tabs.height + page.margin : page.paneTop
+        y: page.arrangement === "side" ? page.margin + tabs.height + page.margin : page.margin
         width: page.arrangement === "single" ? page.innerWidth : page.usageWidth
         height: page.height - y - page.margin
-        visible: !page.hasTabs || page.chosenPane === 2
+        visible: page.arrangement === "columns" || page.pane === "usage"
 
         readonly property bool sideBySide: page.arrangement === "single"
 

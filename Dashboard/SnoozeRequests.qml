@@ -40,18 +40,17 @@ QtObject {
     }
 
     /// Asks to snooze each of @p nodes, a list of {nodeID, type}, until @p seconds since the epoch.
-    function send(nodes: var, seconds: real) {
+    /// Returns those that the host took on.
+    function send(nodes: var, seconds: real): var {
         if (!patience.running)
             forget();
-        for (const node of nodes) {
-            if (surface.setSnooze(node.nodeID, seconds, node.type))
-                ++sent;
-            else
-                ++unsent;
-        }
+        const taken = nodes.filter(node => surface.setSnooze(node.nodeID, seconds, node.type));
+        sent += taken.length;
+        unsent += nodes.length - taken.length;
         if (pending > 0)
             patience.restart();
         updated();
+        return taken;
     }
 
     function forget() {

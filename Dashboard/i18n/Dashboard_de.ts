@@ -85,6 +85,21 @@
     </message>
 </context>
 <context>
+    <name>DashboardView</name>
+    <message>
+        <source>Overview</source>
+        <translation>Übersicht</translation>
+    </message>
+    <message>
+        <source>Snoozed</source>
+        <translation>Zurückgestellt</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>Protokoll</translation>
+    </message>
+</context>
+<context>
     <name>ErrorActionBar</name>
     <message>
         <source>Snooze</source>
@@ -148,6 +163,14 @@
         <source>All disconnected sub-stations</source>
         <translation>Alle getrennten Unterstationen</translation>
     </message>
+    <message>
+        <source>Export</source>
+        <translation>Exportieren</translation>
+    </message>
+    <message>
+        <source>Save the errors shown as a CSV file (Ctrl+E)</source>
+        <translation>Die angezeigten Fehler als CSV-Datei speichern (Strg+E)</translation>
+    </message>
 </context>
 <context>
     <name>ErrorBadge</name>
@@ -184,6 +207,38 @@
         <source>%1, %2, %3, since %4</source>
         <comment>kind, device, station, time</comment>
         <translation>%1, %2, %3, seit %4</translation>
+    </message>
+</context>
+<context>
+    <name>ErrorSheet</name>
+    <message>
+        <source>Error</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>Gerät</translation>
+    </message>
+    <message>
+        <source>Station</source>
+        <translation>Station</translation>
+    </message>
+    <message>
+        <source>Age</source>
+        <translation>Alter</translation>
+    </message>
+    <message>
+        <source>Since (%1)</source>
+        <comment>time zone</comment>
+        <translation>Seit (%1)</translation>
+    </message>
+    <message>
+        <source>Station ID</source>
+        <translation>Stations-ID</translation>
+    </message>
+    <message>
+        <source>Device ID</source>
+        <translation>Geräte-ID</translation>
     </message>
 </context>
 <context>
@@ -282,6 +337,50 @@
     <message>
         <source>Asked to reconnect all disconnected sub-stations</source>
         <translation>Neuverbindung aller getrennten Unterstationen angefordert</translation>
+    </message>
+    <message>
+        <source>errors-%1.csv</source>
+        <comment>date and time</comment>
+        <translation>fehler-%1.csv</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n error(s) saved as %1</source>
+        <translation>
+            <numerusform>%n Fehler als %1 gespeichert</numerusform>
+            <numerusform>%n Fehler als %1 gespeichert</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ExportDialog</name>
+    <message>
+        <source>%1 was not written: %2</source>
+        <comment>path and reason</comment>
+        <translation>%1 wurde nicht geschrieben: %2</translation>
+    </message>
+    <message>
+        <source>Export as CSV</source>
+        <translation>Als CSV exportieren</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>This file exists and will be replaced</source>
+        <translation>Diese Datei gibt es schon; sie wird ersetzt</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Ersetzen</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Exportieren</translation>
     </message>
 </context>
 <context>
@@ -405,6 +504,95 @@
     <message>
         <source>%1%</source>
         <translation>%1&#xa0;%</translation>
+    </message>
+</context>
+<context>
+    <name>LogPage</name>
+    <message>
+        <source>log-%1.csv</source>
+        <comment>date and time</comment>
+        <translation>protokoll-%1.csv</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entries saved as %1</source>
+        <translation>
+            <numerusform>%n Eintrag als %1 gespeichert</numerusform>
+            <numerusform>%n Einträge als %1 gespeichert</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Operational log</source>
+        <translation>Betriebsprotokoll</translation>
+    </message>
+    <message>
+        <source>newest %1</source>
+        <comment>number of entries</comment>
+        <translation>neueste %1</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Exportieren</translation>
+    </message>
+    <message>
+        <source>Save the entries shown as a CSV file (Ctrl+E)</source>
+        <translation>Die angezeigten Einträge als CSV-Datei speichern (Strg+E)</translation>
+    </message>
+    <message>
+        <source>Search the log</source>
+        <translation>Protokoll durchsuchen</translation>
+    </message>
+    <message>
+        <source>No operational log</source>
+        <translation>Kein Betriebsprotokoll</translation>
+    </message>
+    <message>
+        <source>Nothing matches “%1”</source>
+        <translation>Kein Eintrag enthält „%1“</translation>
+    </message>
+    <message>
+        <source>The log is empty</source>
+        <translation>Das Protokoll ist leer</translation>
+    </message>
+    <message>
+        <source>This program offers the dashboard no operational log.</source>
+        <translation>Dieses Programm stellt der Übersicht kein Betriebsprotokoll bereit.</translation>
+    </message>
+    <message>
+        <source>Press Esc to show all entries.</source>
+        <translation>Esc zeigt wieder alle Einträge.</translation>
+    </message>
+    <message>
+        <source>What operators do stands here.</source>
+        <translation>Hier steht, was an der Anlage getan wurde.</translation>
+    </message>
+    <message>
+        <source>Show %1 more</source>
+        <comment>number of entries</comment>
+        <translation>%1 weitere anzeigen</translation>
+    </message>
+</context>
+<context>
+    <name>LogRow</name>
+    <message>
+        <source>%1, %2: %3</source>
+        <comment>time, entry, details</comment>
+        <translation>%1, %2: %3</translation>
+    </message>
+</context>
+<context>
+    <name>LogSheet</name>
+    <message>
+        <source>Time (%1)</source>
+        <comment>time zone</comment>
+        <translation>Zeit (%1)</translation>
+    </message>
+    <message>
+        <source>Entry</source>
+        <translation>Eintrag</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Einzelheiten</translation>
     </message>
 </context>
 <context>
@@ -532,6 +720,105 @@
     <message>
         <source>Snooze</source>
         <translation>Zurückstellen</translation>
+    </message>
+</context>
+<context>
+    <name>SnoozedPage</name>
+    <message>
+        <source>Snoozed</source>
+        <translation>Zurückgestellt</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n still failing</source>
+        <translation>
+            <numerusform>%n weiter gestört</numerusform>
+            <numerusform>%n weiter gestört</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>As last known: nothing is known since %1.</source>
+        <translation>Letzter bekannter Stand: seit %1 ist nichts bekannt.</translation>
+    </message>
+    <message>
+        <source>As last known: the server is away.</source>
+        <translation>Letzter bekannter Stand: der Server ist nicht erreichbar.</translation>
+    </message>
+    <message>
+        <source>Only what was snoozed here is listed; what others snoozed is not known.</source>
+        <translation>Hier steht nur, was von hier aus zurückgestellt wurde; was andere zurückgestellt haben, ist nicht bekannt.</translation>
+    </message>
+    <message>
+        <source>Nothing is snoozed</source>
+        <translation>Nichts ist zurückgestellt</translation>
+    </message>
+    <message>
+        <source>No snooze is known</source>
+        <translation>Keine Zurückstellung bekannt</translation>
+    </message>
+    <message>
+        <source>Errors that are snoozed stand here until they come back.</source>
+        <translation>Zurückgestellte Fehler stehen hier, bis sie wiederkommen.</translation>
+    </message>
+</context>
+<context>
+    <name>SnoozedRow</name>
+    <message>
+        <source>Camera disconnected</source>
+        <translation>Kamera getrennt</translation>
+    </message>
+    <message>
+        <source>Station disconnected</source>
+        <translation>Station getrennt</translation>
+    </message>
+    <message>
+        <source>Still failing</source>
+        <translation>Weiter gestört</translation>
+    </message>
+    <message>
+        <source>Snoozed</source>
+        <translation>Zurückgestellt</translation>
+    </message>
+    <message>
+        <source>over for %1</source>
+        <translation>vorbei seit %1</translation>
+    </message>
+    <message>
+        <source>due</source>
+        <translation>fällig</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <translation>noch %1</translation>
+    </message>
+    <message>
+        <source>until %1</source>
+        <translation>bis %1</translation>
+    </message>
+    <message>
+        <source>asked elsewhere</source>
+        <translation>anderswo angefragt</translation>
+    </message>
+    <message>
+        <source>asked here</source>
+        <translation>hier angefragt</translation>
+    </message>
+    <message>
+        <source>asked here %1</source>
+        <comment>time</comment>
+        <translation>hier angefragt %1</translation>
+    </message>
+    <message>
+        <source>%1: %2, %3, %4, %5, %6, %7</source>
+        <comment>state, device, error, station, time left, time, request</comment>
+        <translation>%1: %2, %3, %4, %5, %6, %7</translation>
+    </message>
+    <message>
+        <source>Not confirmed</source>
+        <translation>Nicht bestätigt</translation>
+    </message>
+    <message>
+        <source>waiting</source>
+        <translation>wartet</translation>
     </message>
 </context>
 <context>

@@ -40,6 +40,13 @@
             <numerusform>%n errors copied</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n error(s) saved as %1</source>
+        <translation>
+            <numerusform>%n error saved as %1</numerusform>
+            <numerusform>%n errors saved as %1</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>FilterNotice</name>
@@ -56,6 +63,16 @@
         <translation>
             <numerusform>%1: hides %n error</numerusform>
             <numerusform>%1: hides %n errors</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>LogPage</name>
+    <message numerus="yes">
+        <source>%n entries saved as %1</source>
+        <translation>
+            <numerusform>%n entry saved as %1</numerusform>
+            <numerusform>%n entries saved as %1</numerusform>
         </translation>
     </message>
 </context>
@@ -94,6 +111,16 @@
         <translation>
             <numerusform>No answer to %n snooze</numerusform>
             <numerusform>No answer to %n snoozes</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>SnoozedPage</name>
+    <message numerus="yes">
+        <source>%n still failing</source>
+        <translation>
+            <numerusform>%n still failing</numerusform>
+            <numerusform>%n still failing</numerusform>
         </translation>
     </message>
 </context>

@@ -1,6 +1,8 @@
 // Draws the dashboard in each of its states and saves the pictures into the folder that is named on
 // the command line. Fails when a picture cannot be made or the QML engine warns.
 
+#include "FakeFiles.h"
+#include "FakeLog.h"
 #include "FakePlugin.h"
 #include "SampleSite.h"
 
@@ -30,9 +32,14 @@ struct Scene
     bool connected = true;
     /// Whether every station is connected.
     bool well = false;
+    /// Whether the host offers the operational log and the server's snoozes.
+    bool offers = true;
     /// What happens before the picture is taken.
     std::function<void(QQuickView &, FakePlugin &)> act = [](QQuickView &, FakePlugin &) {};
 };
+
+/// Of the pictures: quick to save, and still small.
+constexpr int LightCompression = 80;
 
 bool warned = false;
 
@@ -120,6 +127,54 @@ void fillAndShowStations(QQuickView &view, FakePlugin &plugin)
     view.requestUpdate();
 }
 
+void turnTo(QQuickView &view, const char *page)
+{
+    view.rootObject()->setProperty("page", QString::fromLatin1(page));
+}
+
+void fillAndShowSnoozes(QQuickView &view, FakePlugin &plugin)
+{
+    fillAndOpenMenu(view, plugin);
+    QTest::keyClick(&view, Qt::Key_Return);
+    turnTo(view, "snoozed");
+    if (view.rootObject()->property("snoozes").isValid()) {
+        view.rootObject()->setProperty("snoozes", SampleSite::snoozes(5));
+        view.rootObject()->setProperty("snoozes", SampleSite::snoozes(4));
+        SampleSite::endSnooze(plugin);
+    }
+    QTest::keyClick(&view, Qt::Key_Tab);
+}
+
+void fillAndShowLog(QQuickView &view, FakePlugin &plugin)
+{
+    fill(view, plugin);
+    turnTo(view, "log");
+}
+
+void searchInVain(QQuickView &view, FakePlugin &plugin)
+{
+    fillAndShowLog(view, plugin);
+    QTest::keyClick(&view, Qt::Key_F, Qt::ControlModifier);
+    for (const QChar &letter : QStringLiteral("gate 9"))
+        QTest::keyClick(&view, letter.toLatin1());
+    QTest::keyClick(&view, Qt::Key_Return);
+}
+
+void fillAndExport(QQuickView &view, FakePlugin &plugin)
+{
+    fill(view, plugin);
+    QTest::qWait(50);
+    QTest::keyClick(&view, Qt::Key_E, Qt::ControlModifier);
+}
+
+void fillAndFailToExport(QQuickView &view, FakePlugin &plugin)
+{
+    fillAndExport(view, plugin);
+    view.rootObject()->property("files").value<QObject *>()->setProperty(
+        "obstacle", QStringLiteral("No space left on device"));
+    QTest::keyClick(&view, Qt::Key_Return);
+}
+
 void fillWithThousands(QQuickView &view, FakePlugin &plugin)
 {
     fill(view, plugin);
@@ -170,6 +225,47 @@ QList<Scene> scenes()
         {.name = QStringLiteral("moment"), .act = fillAndAskMoment},
         {.name = QStringLiteral("notice"), .dark = false, .act = fillAndSnooze},
         {.name = QStringLiteral("thousands"), .act = fillWithThousands},
+        {.name = QStringLiteral("export"), .act = fillAndExport},
+        {.name = QStringLiteral("export-failed-german-light"),
+         .dark = false,
+         .language = QStringLiteral("de"),
+         .act = fillAndFailToExport},
+        {.name = QStringLiteral("export-failed-small-large-font"),
+         .size = {1024, 640},
+         .fontScale = 2,
+         .act = fillAndFailToExport},
+        {.name = QStringLiteral("snoozed"), .act = fillAndShowSnoozes},
+        {.name = QStringLiteral("snoozed-german-light"),
+         .dark = false,
+         .language = QStringLiteral("de"),
+         .act = fillAndShowSnoozes},
+        {.name = QStringLiteral("snoozed-small"), .size = {1024, 640}, .act = fillAndShowSnoozes},
+        {.name = QStringLiteral("snoozed-small-large-font"),
+         .size = {1024, 640},
+         .fontScale = 2,
+         .act = fillAndShowSnoozes},
+        {.name = QStringLiteral("snoozed-small-large-font-german"),
+         .size = {1024, 640},
+         .language = QStringLiteral("de"),
+         .fontScale = 2,
+         .act = fillAndShowSnoozes},
+        {.name = QStringLiteral("snoozed-untold"), .offers = false, .act = fillAndShowSnoozes},
+        {.name = QStringLiteral("snoozed-lost"), .connected = false, .act = fillAndShowSnoozes},
+        {.name = QStringLiteral("log"), .act = fillAndShowLog},
+        {.name = QStringLiteral("log-german-light"),
+         .dark = false,
+         .language = QStringLiteral("de"),
+         .act = fillAndShowLog},
+        {.name = QStringLiteral("log-small-large-font"),
+         .size = {1024, 640},
+         .fontScale = 2,
+         .act = fillAndShowLog},
+        {.name = QStringLiteral("log-4k-large-font"),
+         .size = {3840, 2160},
+         .fontScale = 2,
+         .act = fillAndShowLog},
+        {.name = QStringLiteral("log-searched"), .act = searchInVain},
+        {.name = QStringLiteral("log-missing"), .offers = false, .act = fillAndShowLog},
     };
 }
 
@@ -198,17 +294,26 @@ bool draw(const Scene &scene, const QDir &folder)
     QCoreApplication::installTranslator(&translator);
 
     FakePlugin plugin;
+    FakeFiles files;
+    FakeLog log;
+    SampleSite::fillLog(log);
     QQuickView view;
     prepare(*view.engine(), scene);
     view.setResizeMode(QQuickView::SizeRootObjectToView);
-    view.setInitialProperties({
+    QVariantMap properties{
         {QStringLiteral("plugin"), QVariant::fromValue<QObject *>(&plugin)},
         {QStringLiteral("siteName"), QStringLiteral("Harbour North")},
         {QStringLiteral("serverConnected"), scene.connected},
         {QStringLiteral("connectionSince"),
          QDateTime::fromMSecsSinceEpoch(SampleSite::now() - 5 * 60 * 1000)},
         {QStringLiteral("stations"), SampleSite::stations(scene.well)},
-    });
+        {QStringLiteral("files"), QVariant::fromValue<QObject *>(&files)},
+    };
+    if (scene.offers) {
+        properties.insert(QStringLiteral("operationalLog"), QVariant::fromValue<QObject *>(&log));
+        properties.insert(QStringLiteral("snoozes"), QVariantList());
+    }
+    view.setInitialProperties(properties);
     view.setSource(QUrl(QStringLiteral("qrc:/qt/qml/Dashboard/DashboardView.qml")));
     view.resize(scene.size);
     view.show();
@@ -216,8 +321,9 @@ bool draw(const Scene &scene, const QDir &folder)
     if (!QTest::qWaitForWindowActive(&view))
         return false;
     scene.act(view, plugin);
-    QTest::qWait(400);
-    return view.grabWindow().save(folder.filePath(scene.name + QStringLiteral(".png")));
+    QTest::qWait(200);
+    return view.grabWindow().save(folder.filePath(scene.name + QStringLiteral(".png")), nullptr,
+                                  LightCompression);
 }
 
 } // namespace

@@ -1,3 +1,5 @@
+#include "FakeFiles.h"
+#include "FakeLog.h"
 #include "FakePlugin.h"
 
 #include <QQmlEngine>
@@ -15,6 +17,8 @@ public Q_SLOTS:
     void qmlEngineAvailable(QQmlEngine *engine)
     {
         engine->addImportPath(QStringLiteral("qrc:/qt/qml"));
+        qmlRegisterType<FakeFiles>("Dashboard.Testing", 1, 0, "FakeFiles");
+        qmlRegisterType<FakeLog>("Dashboard.Testing", 1, 0, "FakeLog");
         qmlRegisterType<FakePlugin>("Dashboard.Testing", 1, 0, "FakePlugin");
     }
 };

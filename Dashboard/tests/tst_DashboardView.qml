@@ -2,12 +2,21 @@ import QtQuick
 import QtQuick.Controls.Basic
 import QtTest
 import Dashboard
+import Dashboard.Testing
 
 Item {
     id: root
 
     width: 1400
     height: 800
+
+    FakeFiles {
+        id: host
+    }
+
+    FakeLog {
+        id: journal
+    }
 
     Component {
         id: viewComponent
@@ -119,6 +128,148 @@ Item {
             prepare();
             keyClick(Qt.Key_F, Qt.ControlModifier);
             verify(inWindow("Filter by error or device").activeFocus);
+        }
+
+        function test_exportKeySavesTheErrorsShown() {
+            prepare({ "files": host });
+            keyClick(Qt.Key_E, Qt.ControlModifier);
+            tryVerify(() => inWindow("File")?.activeFocus ?? false);
+            keyClick(Qt.Key_Return);
+            tryVerify(() => itemsWhere(view, item => item instanceof NoticeBar)[0].text
+                      === "2 error(s) saved as /home/user/Documents/errors-2024-05-14-140733.csv");
+        }
+
+        function tabs() {
+            return itemsWhere(view, item => item instanceof TabStrip)[0].tabs.map(tab => tab.key);
+        }
+
+        function test_tabsTurnThePages() {
+            prepare();
+            compare(tabs(), ["overview", "snoozed", "log"]);
+            click("Snoozed");
+            verify(pane(SnoozedPage).visible);
+            verify(!pane(OverviewPage).visible);
+            click("Log");
+            verify(pane(LogPage).visible);
+            click("Overview");
+            verify(pane(OverviewPage).visible);
+        }
+
+        function test_keysTurnThePages() {
+            prepare();
+            keyClick(Qt.Key_PageDown, Qt.ControlModifier);
+            compare(view.page, "snoozed");
+            verify(inWindow("Snoozed").activeFocus);
+            keyClick(Qt.Key_PageUp, Qt.ControlModifier);
+            keyClick(Qt.Key_PageUp, Qt.ControlModifier);
+            compare(view.page, "log");
+        }
+
+        function test_panesArePagesWhereThereIsNoRoom() {
+            prepare();
+            view.anchors.fill = undefined;
+            view.width = Theme.em(50);
+            compare(tabs(), ["errors", "stations", "usage", "snoozed", "log"]);
+            waitForRendering(view);
+            click("Usage");
+            verify(pane(FocusedStationPanel).visible);
+            verify(!pane(ErrorsPane).visible);
+            click("Log");
+            verify(!pane(OverviewPage).visible);
+            click("Errors");
+            verify(pane(ErrorsPane).visible);
+        }
+
+        function test_theKeyboardFollowsToTheOnlyPane() {
+            prepare();
+            view.anchors.fill = undefined;
+            view.width = Theme.em(50);
+            keyClick(Qt.Key_Home);
+            keyClick(Qt.Key_Return);
+            verify(inWindow("Usage").activeFocus);
+        }
+
+        function test_everyPageIsReachedByTab_data() {
+            return [{ "tag": "snoozed" }, { "tag": "log" }];
+        }
+
+        function test_everyPageIsReachedByTab(data) {
+            prepare({ "files": host, "operationalLog": journal,
+                      "snoozes": [{ "nodeID": "b/1", "type": 3, "until": now + hour, "name": "" }] });
+            view.page = data.tag;
+            waitForRendering(view);
+            const controls = itemsWhere(view, item => item.visible && item.enabled
+                                                      && item.activeFocusOnTab);
+            const round = tabRound(Qt.Key_Tab);
+            for (const control of controls) {
+                verify(round.includes(control), control + " " + control.Accessible.name);
+                verify(control.Accessible.name !== "", control);
+                control.forceActiveFocus(Qt.TabFocusReason);
+                const marks = itemsWhere(view, mark => mark.visible && (mark instanceof FocusRing
+                                                                        || mark instanceof RowRing));
+                compare(marks.length, 1, control.Accessible.name);
+            }
+        }
+
+        function test_snoozesAreCountedOnTheirTab() {
+            prepare({ "snoozes": [{ "nodeID": "b/1", "type": 3, "until": now + hour, "name": "" }] });
+            tryVerify(() => inWindow("Snoozed 1") !== null);
+        }
+
+        function test_snoozesMadeHereAreListed() {
+            prepare();
+            keyClick(Qt.Key_Home);
+            pane(ErrorsPane).snoozeFor(3600);
+            plugin.removeError("3_b/1");
+            tryVerify(() => inWindow("Snoozed 1") !== null);
+            click("Snoozed 1");
+            verify(hasText(view, "asked here 14:07:33 CEST"));
+        }
+
+        function test_snoozesLeadToTheirStation() {
+            prepare({ "snoozes": [{ "nodeID": "b/1", "type": 3, "until": now + hour, "name": "" }] });
+            view.page = "snoozed";
+            tryVerify(() => inWindow("Snoozed 1") !== null);
+            pane(SnoozedPage).requestStation(0);
+            compare(plugin.focusStationResource, "b");
+            compare(view.page, "overview");
+            verify(inWindow("Overview").activeFocus);
+        }
+
+        function test_keysOfTheLog() {
+            prepare({ "files": host, "operationalLog": journal });
+            journal.add(now, "Entry", []);
+            view.page = "log";
+            keyClick(Qt.Key_F, Qt.ControlModifier);
+            verify(inWindow("Search the log").activeFocus);
+            keyClick("x");
+            keyClick(Qt.Key_Escape);
+            compare(inWindow("Search the log").text, "");
+            keyClick(Qt.Key_E, Qt.ControlModifier);
+            tryVerify(() => inWindow("File")?.activeFocus ?? false);
+        }
+
+        function test_findKeyLeavesAPageWithoutAFilter() {
+            prepare();
+            view.page = "snoozed";
+            keyClick(Qt.Key_F, Qt.ControlModifier);
+            compare(view.page, "overview");
+            verify(inWindow("Filter by error or device").activeFocus);
+        }
+
+        function test_coloursFollowTheHostAndTheUser() {
+            prepare({ "dark": false });
+            compare(Theme.dark, false);
+            click("Switch to dark colours");
+            compare(view.dark, true);
+            view.dark = false;
+            compare(Theme.dark, false);
+        }
+
+        function test_withoutAWordFromTheHostTheColoursStay() {
+            Theme.dark = false;
+            prepare();
+            compare([Theme.dark, view.dark], [false, false]);
         }
 
         function test_escapeClearsTheFiltersFromAnywhere() {

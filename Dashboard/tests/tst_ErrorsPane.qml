@@ -1,6 +1,7 @@
 import QtQuick
 import QtTest
 import Dashboard
+import Dashboard.Testing
 
 Item {
     id: root
@@ -16,6 +17,10 @@ Item {
             { "stationID": "st10", "name": "Quay", "parentID": "", "connected": true },
             { "stationID": "st2", "name": "Parking", "parentID": "", "connected": false }
         ]
+    }
+
+    FakeFiles {
+        id: host
     }
 
     TextEdit {
@@ -247,6 +252,22 @@ Item {
                                    "setSnooze st10/c2 " + end + " 3", "setSnooze st2 " + end + " 4"]);
         }
 
+        function test_tellsWhichNodesAreToBeSnoozed() {
+            prepare();
+            const asked = spyOn(pane, "snoozeAsked");
+            pane.selection.selectAll();
+            pane.snoozeFor(60);
+            compare(asked.signalArguments[0][0], [
+                { "nodeID": "st1/c1", "type": 3, "stationID": "st1", "device": "Door 1" },
+                { "nodeID": "st10/c2", "type": 3, "stationID": "st10", "device": "Gate+2" },
+                { "nodeID": "st2", "type": 4, "stationID": "st2", "device": "Parking" }
+            ]);
+            compare(asked.signalArguments[0][1], now / 1000 + 60);
+            plugin.accepting = false;
+            pane.snoozeFor(60);
+            compare(asked.count, 1);
+        }
+
         function test_snoozeByKeyboard() {
             prepare();
             keyClick(Qt.Key_Home);
@@ -346,6 +367,37 @@ Item {
             const notices = spyOn(pane, "noticed");
             keyClick(Qt.Key_C, Qt.ControlModifier);
             compare(notices.count, 0);
+        }
+
+        function test_exportsWhatTheListShows() {
+            prepare({ "files": host });
+            const notices = spyOn(pane, "noticed");
+            pane.filters.categories = ErrorKinds.cameraCategory;
+            tryCompare(pane.shown, "count", 2);
+            click("Export");
+            tryVerify(() => inWindow("File")?.activeFocus ?? false);
+            keyClick(Qt.Key_Return);
+            const path = "/home/user/Documents/errors-2024-05-14-140733.csv";
+            compare(host.content(path).split("\r\n"), [
+                "Error,Device,Station,Age,Since (CEST),Station ID,Device ID",
+                "Camera disconnected,Door 1,Lobby,1 s,2024-05-14 14:07:32,st1,st1/c1",
+                "Camera disconnected,Gate+2,Quay,1 min,2024-05-14 14:06:33,st10,st10/c2",
+                ""
+            ]);
+            compare(notices.signalArguments[0][1], "2 error(s) saved as " + path);
+        }
+
+        function test_exportNeedsErrorsAndAHostThatWrites() {
+            prepare();
+            compare(inWindow("Export"), null);
+            pane.exportShown();
+            pane.files = host;
+            tryVerify(() => inWindow("Export") !== null);
+            compare(inWindow("Export").enabled, true);
+            plugin.clearErrors();
+            tryCompare(inWindow("Export"), "enabled", false);
+            pane.exportShown();
+            compare(inWindow("File"), null);
         }
 
         function test_withoutASurfaceThereIsAnEmptyList() {

@@ -24,6 +24,16 @@ Item {
             compare(Format.duration(data.seconds), data.text);
         }
 
+        function test_timesBelowAZoneNameOnlyAnother() {
+            compare(Format.zone(now), "CEST");
+            compare(Format.timeInZone(now, "CEST"), "2024-05-14 14:07:33");
+            compare(Format.timeInZone(now, "CET"), "2024-05-14 14:07:33 CEST");
+        }
+
+        function test_fileStampSortsByTime() {
+            compare(Format.fileStamp(now), "2024-05-14-140733");
+        }
+
         function test_ageCountsFromTheMoment() {
             compare(Format.age(now - 90 * second, now), "1 min");
         }

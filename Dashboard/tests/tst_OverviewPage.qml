@@ -96,12 +96,20 @@ Item {
         }
 
         function test_tabsShowTheOtherPanes() {
-            prepare(50);
-            click("Stations");
-            compare(areShown(), [false, true, false]);
+            prepare(70);
             click("Usage");
+            compare(areShown(), [true, false, true]);
+            click("Stations");
+            compare(areShown(), [true, true, false]);
+        }
+
+        function test_ownerChoosesTheOnlyPane() {
+            prepare(50);
+            page.pane = "stations";
+            compare(areShown(), [false, true, false]);
+            page.pane = "usage";
             compare(areShown(), [false, false, true]);
-            click("Errors");
+            page.pane = "errors";
             compare(areShown(), [true, false, false]);
         }
 
@@ -123,17 +131,18 @@ Item {
             verify(pane(ErrorsPane).hasFocus);
         }
 
-        function test_theKeyboardFollowsToTheOnlyPane() {
+        function test_theOnlyPaneGivesTheKeyboardBack() {
             prepare(50);
+            const losses = spyOn(page, "keyboardLost");
             keyClick(Qt.Key_Home);
             keyClick(Qt.Key_Return);
             compare(areShown(), [false, false, true]);
-            verify(inWindow("Usage").activeFocus);
+            compare(losses.count, 1);
         }
 
         function test_badgeFiltersTheErrors() {
             prepare(50);
-            click("Stations");
+            page.pane = "stations";
             click("Show the 1 error(s)");
             compare(areShown(), [true, false, false]);
             compare(pane(ErrorsPane).filters.stationID, "b");
@@ -142,14 +151,14 @@ Item {
 
         function test_textFilterIsReachedFromAnyTab() {
             prepare(50);
-            click("Usage");
+            page.pane = "usage";
             page.showTextFilter();
             verify(inWindow("Filter by error or device").activeFocus);
         }
 
         function test_growingKeepsThePanes() {
             prepare(50);
-            click("Usage");
+            page.pane = "usage";
             page.width = Theme.em(100);
             compare(areShown(), [true, true, true]);
             page.width = Theme.em(50);

@@ -248,6 +248,13 @@
     </message>
 </context>
 <context>
+    <name>OperationalLogReader</name>
+    <message>
+        <source>Error snoozed</source>
+        <translation>Fehler zurückgestellt</translation>
+    </message>
+</context>
+<context>
     <name>OperationalLogStore</name>
     <message>
         <source>%1: cannot be used for the operational log: %2</source>
@@ -348,6 +355,14 @@ Exit codes: 0 all went well, 1 the work could not be done, 2 an option or a file
 
 Rückgabewerte: 0 alles ging gut, 1 die Arbeit war nicht möglich, 2 eine Option oder eine Datei ist falsch.</translation>
     </message>
+    <message>
+        <source>Show this QML file instead of the dashboard, with the same properties.</source>
+        <translation>Diese QML-Datei statt der Übersicht zeigen, mit denselben Eigenschaften.</translation>
+    </message>
+    <message>
+        <source>--page: expected a QML file, found &quot;%1&quot;.</source>
+        <translation>--page: erwartet: eine QML-Datei, gefunden: „%1“.</translation>
+    </message>
 </context>
 <context>
     <name>PluginHost</name>
@@ -381,6 +396,13 @@ Rückgabewerte: 0 alles ging gut, 1 die Arbeit war nicht möglich, 2 eine Option
     <message>
         <source>The plug-in has no signal %1.</source>
         <translation>Das Plug-in hat kein Signal %1.</translation>
+    </message>
+</context>
+<context>
+    <name>Preferences</name>
+    <message>
+        <source>%1 cannot be written</source>
+        <translation>%1 kann nicht geschrieben werden</translation>
     </message>
 </context>
 <context>

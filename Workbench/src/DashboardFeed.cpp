@@ -1,8 +1,20 @@
 #include "DashboardFeed.h"
 
+#include "DashboardSnoozes.h"
 #include "DashboardWindow.h"
 #include "ServerLink.h"
+#include "ServerNames.h"
 #include "StationList.h"
+
+namespace {
+
+bool tellsOfSnoozes(const QString &event)
+{
+    return event == ServerNames::SnoozeError || event == ServerNames::DeviceStillError
+           || event == ServerNames::RemoveSnooze;
+}
+
+} // namespace
 
 DashboardFeed::DashboardFeed(const ServerLink &link, DashboardWindow &window, QObject *parent)
     : QObject(parent)
@@ -12,6 +24,11 @@ DashboardFeed::DashboardFeed(const ServerLink &link, DashboardWindow &window, QO
     connect(&link, &ServerLink::opened, this, &DashboardFeed::showConnection);
     connect(&link, &ServerLink::closed, this, &DashboardFeed::showConnection);
     connect(&link, &ServerLink::opened, this, &DashboardFeed::showStations);
+    connect(&link, &ServerLink::opened, this, &DashboardFeed::showSnoozes);
+    connect(&link, &ServerLink::eventRaised, this, [this](const QString &name) {
+        if (tellsOfSnoozes(name))
+            showSnoozes();
+    });
     connect(&link, &ServerLink::stationRemoved, this, &DashboardFeed::showStations);
     connect(&link, &ServerLink::nodeStatusChanged, this, [this](NodeType type) {
         if (type == NodeType::Station)
@@ -28,4 +45,9 @@ void DashboardFeed::showConnection()
 void DashboardFeed::showStations()
 {
     m_window.setStations(stationList(m_link.site()));
+}
+
+void DashboardFeed::showSnoozes()
+{
+    m_window.setSnoozes(dashboardSnoozes(m_link.site(), m_link.snoozes()));
 }

@@ -6,8 +6,8 @@
 class DashboardWindow;
 class ServerLink;
 
-/// Keeps a dashboard informed of what the plug-in does not tell it: the connection to the server
-/// and the stations of the site. Stations stay as last known while the connection is lost.
+/// Keeps a dashboard informed of what the plug-in does not tell it: the connection to the server,
+/// the stations of the site and its snoozes. These stay as last known while the connection is lost.
 class DashboardFeed : public QObject
 {
     Q_OBJECT
@@ -19,6 +19,7 @@ public:
 private:
     void showConnection();
     void showStations();
+    void showSnoozes();
 
     const ServerLink &m_link;
     DashboardWindow &m_window;

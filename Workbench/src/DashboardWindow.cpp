@@ -8,6 +8,7 @@
 #include <QImage>
 #include <QQmlEngine>
 #include <QQmlError>
+#include <QQmlProperty>
 #include <QQuickItem>
 #include <QSurfaceFormat>
 
@@ -50,6 +51,8 @@ DashboardWindow::DashboardWindow(QQmlEngine &engine, QObject &plugin, const QStr
     setSource(source);
     if (status() != QQuickView::Ready)
         throw HostError(tr("The dashboard cannot be loaded: %1").arg(describe(errors())));
+    QQmlProperty(rootObject(), QStringLiteral("dark"))
+        .connectNotifySignal(this, SLOT(announceDark()));
 }
 
 void DashboardWindow::setConnection(bool isConnected, const QDateTime &since)
@@ -61,6 +64,31 @@ void DashboardWindow::setConnection(bool isConnected, const QDateTime &since)
 void DashboardWindow::setStations(const QVariantList &stations)
 {
     rootObject()->setProperty("stations", stations);
+}
+
+void DashboardWindow::setSnoozes(const QVariantList &snoozes)
+{
+    rootObject()->setProperty("snoozes", snoozes);
+}
+
+void DashboardWindow::setDark(bool isDark)
+{
+    rootObject()->setProperty("dark", isDark);
+}
+
+void DashboardWindow::setOperationalLog(QObject &log)
+{
+    rootObject()->setProperty("operationalLog", QVariant::fromValue(&log));
+}
+
+void DashboardWindow::announceDark()
+{
+    Q_EMIT darkChanged(rootObject()->property("dark").toBool());
+}
+
+void DashboardWindow::setFiles(QObject &files)
+{
+    rootObject()->setProperty("files", QVariant::fromValue(&files));
 }
 
 bool DashboardWindow::saveImage(const QString &fileName)

@@ -29,9 +29,28 @@ public:
     /// Tells the dashboard of the stations, as stationList() gives them.
     void setStations(const QVariantList &stations);
 
+    /// Tells the dashboard of the snoozes in force, as dashboardSnoozes() gives them.
+    void setSnoozes(const QVariantList &snoozes);
+
+    /// Chooses dark or light colours.
+    void setDark(bool isDark);
+
+    /// Hands the dashboard what writes its files; the object must outlive the window.
+    void setFiles(QObject &files);
+
+    /// Hands the dashboard what reads the operational log; the object must outlive the window.
+    void setOperationalLog(QObject &log);
+
     /// Draws the dashboard as it is now and saves the picture, whose format is that of the file's
     /// suffix. The window must be shown. False when the file cannot be written.
     bool saveImage(const QString &fileName);
+
+Q_SIGNALS:
+    /// The user chose other colours.
+    void darkChanged(bool isDark);
+
+private Q_SLOTS:
+    void announceDark();
 };
 
 #endif

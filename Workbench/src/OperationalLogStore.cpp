@@ -18,8 +18,8 @@ constexpr const char *CreateTable = "CREATE TABLE IF NOT EXISTS operational_log 
                                     "name TEXT NOT NULL, parameters TEXT NOT NULL)";
 constexpr const char *Insert =
     "INSERT INTO operational_log (time, name, parameters) VALUES (?, ?, ?)";
-constexpr const char *SelectNewest =
-    "SELECT time, name, parameters FROM operational_log ORDER BY id DESC LIMIT ?";
+constexpr const char *SelectNewestFirst =
+    "SELECT time, name, parameters FROM operational_log ORDER BY id DESC";
 
 QString toJson(const QVariantList &list)
 {
@@ -80,13 +80,23 @@ bool OperationalLogStore::add(const OperationalLogEntry &entry)
 
 QList<OperationalLogEntry> OperationalLogStore::newest(int limit) const
 {
+    return newest(limit, [](const OperationalLogEntry &) { return true; });
+}
+
+QList<OperationalLogEntry>
+OperationalLogStore::newest(int limit,
+                            const std::function<bool(const OperationalLogEntry &)> &accepts) const
+{
     QSqlQuery query(QSqlDatabase::database(m_connectionName));
-    query.prepare(QLatin1String(SelectNewest));
-    query.addBindValue(limit);
-    query.exec();
+    query.setForwardOnly(true);
+    query.exec(QLatin1String(SelectNewestFirst));
     QList<OperationalLogEntry> entries;
-    while (query.next())
-        entries.append({QDateTime::fromMSecsSinceEpoch(query.value(0).toLongLong()),
-                        query.value(1).toString(), fromJson(query.value(2).toString())});
+    while (entries.size() < limit && query.next()) {
+        const OperationalLogEntry entry{QDateTime::fromMSecsSinceEpoch(query.value(0).toLongLong()),
+                                        query.value(1).toString(),
+                                        fromJson(query.value(2).toString())};
+        if (accepts(entry))
+            entries.append(entry);
+    }
     return entries;
 }

@@ -7,6 +7,8 @@
 #include <QString>
 #include <QVariantList>
 
+#include <functional>
+
 /// One entry of the operational log.
 struct OperationalLogEntry
 {
@@ -37,6 +39,10 @@ public:
 
     /// The newest entries first.
     QList<OperationalLogEntry> newest(int limit) const;
+
+    /// The newest of those entries that are accepted.
+    QList<OperationalLogEntry>
+    newest(int limit, const std::function<bool(const OperationalLogEntry &)> &accepts) const;
 
 private:
     QString m_connectionName;

@@ -60,6 +60,9 @@ private:
     const QCommandLineOption m_language{QStringLiteral("language"),
                                         tr("The language of all texts: en or de."), tr("code"),
                                         QStringLiteral("en")};
+    const QCommandLineOption m_page{
+        QStringLiteral("page"),
+        tr("Show this QML file instead of the dashboard, with the same properties."), tr("file")};
     const QCommandLineOption m_log{
         QStringLiteral("log"),
         tr("Keep the operational log in this SQLite file. Without it the log is kept among the "
@@ -88,6 +91,7 @@ OptionParser::OptionParser()
            "\n"
            "Exit codes: 0 all went well, 1 the work could not be done, 2 an option or a file is "
            "wrong."));
+    m_parser.addOption(m_page);
     m_parser.addOptions({m_headless, m_site, m_scenario, m_speed, m_loop, m_screenshot,
                          m_screenshotAt, m_language, m_log, m_plugin, m_help, m_version});
 }
@@ -107,6 +111,9 @@ Options OptionParser::parse(const QStringList &arguments)
     options.siteFile = bundledOrFile(m_site, QStringLiteral("sites"));
     options.scenarioFile = bundledOrFile(m_scenario, QStringLiteral("scenarios"));
     options.pluginFile = m_parser.value(m_plugin);
+    options.pageFile = m_parser.value(m_page);
+    if (m_parser.isSet(m_page) && !QFileInfo(options.pageFile).isFile())
+        throw InputError(tr("--page: expected a QML file, found \"%1\".").arg(options.pageFile));
     options.language = m_parser.value(m_language);
     options.speed = number(m_speed, MaxSpeed);
     options.screenshotFile = m_parser.value(m_screenshot);

@@ -12,6 +12,7 @@ struct Options
     QString siteFile;                     ///< a file, or a resource
     QString scenarioFile;                 ///< a file, or a resource
     QString pluginFile;                   ///< empty for defaultPluginFile()
+    QString pageFile;                     ///< empty for the dashboard
     QString screenshotFile;               ///< empty for none
     std::optional<qint64> screenshotAtMs; ///< of the scenario; the scenario decides without it
     std::optional<QString> logFile;

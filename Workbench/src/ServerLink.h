@@ -26,6 +26,9 @@ public:
     /// The site as the server knows it at this moment.
     const Site &site() const { return m_server.site(); }
 
+    /// The snoozes in force, as the server knows them at this moment.
+    std::vector<Snooze> snoozes() const { return m_server.snoozes(); }
+
     void open();
     void close();
 

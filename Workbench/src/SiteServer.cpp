@@ -22,6 +22,11 @@ SiteServer::SiteServer(Site site, Clock &clock, QObject *parent)
     m_clock.callAt(m_clock.nowMs() + ReportIntervalMs, this, [this] { reportAll(); });
 }
 
+std::vector<Snooze> SiteServer::snoozes() const
+{
+    return m_snoozes.active(m_clock.nowMs());
+}
+
 void SiteServer::reset(Site site)
 {
     m_site = std::move(site);

@@ -31,6 +31,9 @@ public:
 
     const Site &site() const { return m_site; }
 
+    /// The snoozes in force. An event is raised whenever they change.
+    std::vector<Snooze> snoozes() const;
+
     /// Starts anew with a site as given and without snoozes.
     void reset(Site site);
 

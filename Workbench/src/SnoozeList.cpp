@@ -1,6 +1,7 @@
 #include "SnoozeList.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace {
 
@@ -31,11 +32,19 @@ void SnoozeList::clear()
 QStringList SnoozeList::activeNodeIds(qint64 nowMs) const
 {
     QStringList ids;
-    for (const Snooze &snooze : m_snoozes) {
-        if (snoozeState(snooze, nowMs) == SnoozeState::Active)
-            ids.append(snooze.nodeId);
-    }
+    for (const Snooze &snooze : active(nowMs))
+        ids.append(snooze.nodeId);
     return ids;
+}
+
+std::vector<Snooze> SnoozeList::active(qint64 nowMs) const
+{
+    std::vector<Snooze> snoozes;
+    std::copy_if(m_snoozes.cbegin(), m_snoozes.cend(), std::back_inserter(snoozes),
+                 [nowMs](const Snooze &snooze) {
+                     return snoozeState(snooze, nowMs) == SnoozeState::Active;
+                 });
+    return snoozes;
 }
 
 std::vector<Snooze> SnoozeList::takeExpired(qint64 nowMs)

@@ -39,6 +39,9 @@ public:
     /// Ids of the nodes that are snoozed at a time, in ascending order.
     QStringList activeNodeIds(qint64 nowMs) const;
 
+    /// The snoozes that are active at a time, by the ids of their nodes.
+    std::vector<Snooze> active(qint64 nowMs) const;
+
     /// Takes the snoozes off the list that have expired at a time, the earliest end first.
     std::vector<Snooze> takeExpired(qint64 nowMs);
 

@@ -3,11 +3,14 @@
 #include "DashboardFeed.h"
 #include "DashboardWindow.h"
 #include "Display.h"
+#include "FileExport.h"
 #include "HeadlessRun.h"
 #include "HostError.h"
 #include "InputError.h"
+#include "OperationalLogReader.h"
 #include "Options.h"
 #include "PluginHost.h"
+#include "Preferences.h"
 #include "ScaledClock.h"
 #include "ScenarioFile.h"
 #include "Screenshot.h"
@@ -15,6 +18,7 @@
 #include "WindowRun.h"
 #include "Workbench.h"
 
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QProcessEnvironment>
 #include <QQmlEngine>
@@ -77,6 +81,13 @@ QString logFile(const Options &options)
            + QStringLiteral("/operational-log.sqlite");
 }
 
+QUrl pageUrl(const Options &options)
+{
+    return options.pageFile.isEmpty()
+               ? DashboardWindow::dashboardUrl()
+               : QUrl::fromLocalFile(QFileInfo(options.pageFile).absoluteFilePath());
+}
+
 int playHeadless(Workbench &workbench, const Clock &clock, Screenshot *screenshot)
 {
     QTextStream out(stdout);
@@ -105,8 +116,16 @@ int play(const Options &options, Catalogues &catalogues)
     if (!engine)
         return playHeadless(workbench, clock, nullptr);
 
-    DashboardWindow window(*engine, workbench.surface().plugin(), site.name);
+    FileExport files(FileExport::usualFolder());
+    OperationalLogReader logReader(log, workbench.logPlugin());
+    Preferences preferences(isHeadless ? QString() : Preferences::usualFile());
+    DashboardWindow window(*engine, workbench.surface().plugin(), site.name, pageUrl(options));
     const DashboardFeed feed(workbench.link(), window);
+    window.setFiles(files);
+    window.setOperationalLog(logReader);
+    window.setDark(preferences.isDark());
+    QObject::connect(&window, &DashboardWindow::darkChanged,
+                     [&preferences](bool isDark) { preferences.setDark(isDark); });
     Screenshot picture(window, options.screenshotFile);
     Screenshot *const screenshot = wantsPicture ? &picture : nullptr;
     if (!isHeadless)

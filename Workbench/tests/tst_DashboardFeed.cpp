@@ -2,6 +2,7 @@
 
 #include "DashboardWindow.h"
 #include "ServerLink.h"
+#include "ServerNames.h"
 #include "TestSite.h"
 #include "VirtualClock.h"
 
@@ -23,10 +24,14 @@ private Q_SLOTS:
     void followsTheConnection();
     void followsTheStations();
     void stationsStayAsLastKnown();
+    void followsTheSnoozes();
+    void snoozesStayAsLastKnown();
 
 private:
     QVariant shown(const char *property) const;
     QStringList shownStations() const;
+    QStringList snoozedNodes() const;
+    void snooze(const char *nodeId, qint64 seconds);
 
     VirtualClock m_clock;
     QQmlEngine m_engine;
@@ -72,6 +77,27 @@ QStringList tst_DashboardFeed::shownStations() const
     return stations;
 }
 
+QStringList tst_DashboardFeed::snoozedNodes() const
+{
+    QStringList nodes;
+    const QVariantList list = shown("snoozes").toList();
+    for (const QVariant &snooze : list)
+        nodes.append(snooze.toMap().value(QStringLiteral("nodeID")).toString());
+    return nodes;
+}
+
+// For some seconds from now.
+void tst_DashboardFeed::snooze(const char *nodeId, qint64 seconds)
+{
+    m_server->setCameraConnected(QString::fromLatin1(nodeId), false);
+    m_server->execute(ServerNames::SetSnooze,
+                      QVariantMap{{ServerNames::KeyNodeId, QString::fromLatin1(nodeId)},
+                                  {ServerNames::KeyType, ServerNames::CameraDisconnected},
+                                  {ServerNames::KeyTimestamp, m_clock.nowMs() / 1000 + seconds}},
+                      QString());
+    QCoreApplication::processEvents();
+}
+
 void tst_DashboardFeed::showsTheConnectionAtOnce()
 {
     QCOMPARE(shown("serverConnected").toBool(), false);
@@ -107,6 +133,34 @@ void tst_DashboardFeed::stationsStayAsLastKnown()
     QCOMPARE(shownStations().size(), 3);
     m_link->open();
     QCOMPARE(shownStations(), QStringList{QStringLiteral("south")});
+}
+
+void tst_DashboardFeed::followsTheSnoozes()
+{
+    m_link->open();
+    QCOMPARE(shown("snoozes").isValid(), true);
+    QCOMPARE(snoozedNodes(), QStringList());
+    snooze("north/c1", 60);
+    snooze("south/c1", 120);
+    QCOMPARE(snoozedNodes(), QStringList({QStringLiteral("north/c1"), QStringLiteral("south/c1")}));
+    m_clock.advance(60'000);
+    QCoreApplication::processEvents();
+    QCOMPARE(snoozedNodes(), QStringList{QStringLiteral("south/c1")});
+    m_server->removeCamera(QStringLiteral("south/c1"));
+    QCoreApplication::processEvents();
+    QCOMPARE(snoozedNodes(), QStringList());
+}
+
+void tst_DashboardFeed::snoozesStayAsLastKnown()
+{
+    m_link->open();
+    snooze("north/c1", 60);
+    m_link->close();
+    m_clock.advance(60'000);
+    QCoreApplication::processEvents();
+    QCOMPARE(snoozedNodes(), QStringList{QStringLiteral("north/c1")});
+    m_link->open();
+    QCOMPARE(snoozedNodes(), QStringList());
 }
 
 QTEST_MAIN(tst_DashboardFeed)

@@ -8,6 +8,7 @@
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QRegularExpression>
+#include <QSignalSpy>
 #include <QTest>
 
 namespace {
@@ -30,6 +31,10 @@ private Q_SLOTS:
     void dashboardFillsTheWindow();
     void tellsOfTheConnection();
     void tellsOfTheStations();
+    void tellsOfTheSnoozes();
+    void handsOverWhatWritesFiles();
+    void handsOverWhatReadsTheLog();
+    void coloursAreSetAndHeardOf();
     void savesWhatIsShown();
     void tellsWhenThePictureCannotBeWritten();
     void refusesADashboardThatCannotBeLoaded();
@@ -79,6 +84,48 @@ void tst_DashboardWindow::tellsOfTheStations()
     const QVariantList stations{QVariantMap{{QStringLiteral("stationID"), QStringLiteral("st")}}};
     window.setStations(stations);
     QCOMPARE(window.rootObject()->property("stations").toList(), stations);
+}
+
+void tst_DashboardWindow::tellsOfTheSnoozes()
+{
+    QQmlEngine engine;
+    QObject plugin;
+    DashboardWindow window(engine, plugin, {}, testFile(QStringLiteral("Dashboard.qml")));
+    const QVariantList snoozes{QVariantMap{{QStringLiteral("nodeID"), QStringLiteral("st")}}};
+    window.setSnoozes(snoozes);
+    QCOMPARE(window.rootObject()->property("snoozes").toList(), snoozes);
+}
+
+void tst_DashboardWindow::handsOverWhatReadsTheLog()
+{
+    QQmlEngine engine;
+    QObject plugin;
+    QObject log;
+    DashboardWindow window(engine, plugin, {}, testFile(QStringLiteral("Dashboard.qml")));
+    window.setOperationalLog(log);
+    QCOMPARE(window.rootObject()->property("operationalLog").value<QObject *>(), &log);
+}
+
+void tst_DashboardWindow::coloursAreSetAndHeardOf()
+{
+    QQmlEngine engine;
+    QObject plugin;
+    DashboardWindow window(engine, plugin, {}, testFile(QStringLiteral("Dashboard.qml")));
+    const QSignalSpy changes(&window, &DashboardWindow::darkChanged);
+    window.setDark(false);
+    QCOMPARE(window.rootObject()->property("dark").toBool(), false);
+    window.rootObject()->setProperty("dark", true);
+    QCOMPARE(changes, QList<QVariantList>({{false}, {true}}));
+}
+
+void tst_DashboardWindow::handsOverWhatWritesFiles()
+{
+    QQmlEngine engine;
+    QObject plugin;
+    QObject files;
+    DashboardWindow window(engine, plugin, {}, testFile(QStringLiteral("Dashboard.qml")));
+    window.setFiles(files);
+    QCOMPARE(window.rootObject()->property("files").value<QObject *>(), &files);
 }
 
 void tst_DashboardWindow::savesWhatIsShown()

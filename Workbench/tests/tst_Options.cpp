@@ -23,6 +23,7 @@ private Q_SLOTS:
     void readsEveryOption();
     void bundledFilesGoByTheirNames();
     void filesComeBeforeBundledOnes();
+    void pageIsAFile();
     void wrongOptionsAreRefused_data();
     void wrongOptionsAreRefused();
     void helpNamesEveryOption();
@@ -35,6 +36,7 @@ void tst_Options::everythingHasADefault()
     QCOMPARE(options.siteFile, QStringLiteral(":/workbench/sites/default.json"));
     QCOMPARE(options.scenarioFile, QStringLiteral(":/workbench/scenarios/default.json"));
     QCOMPARE(options.pluginFile, QString());
+    QCOMPARE(options.pageFile, QString());
     QCOMPARE(options.screenshotFile, QString());
     QVERIFY(!options.screenshotAtMs);
     QVERIFY(!options.logFile);
@@ -84,6 +86,12 @@ void tst_Options::filesComeBeforeBundledOnes()
     QDir::setCurrent(before);
 }
 
+void tst_Options::pageIsAFile()
+{
+    const TextFile page("import QtQuick", QStringLiteral("Page.qml"));
+    QCOMPARE(parse({QStringLiteral("--page"), page.path()}).pageFile, page.path());
+}
+
 void tst_Options::wrongOptionsAreRefused_data()
 {
     QTest::addColumn<QString>("arguments");
@@ -102,6 +110,9 @@ void tst_Options::wrongOptionsAreRefused_data()
                                                "to 1000, found \"%1\".")
                                     .arg(text);
     }
+    QTest::newRow("page that is not there")
+        << QStringLiteral("--page none.qml")
+        << QStringLiteral("--page: expected a QML file, found \"none.qml\".");
     QTest::newRow("time of the picture")
         << QStringLiteral("--screenshot x.png --screenshot-at soon")
         << QStringLiteral("--screenshot-at: expected a number greater than 0 and up to 86400, "
@@ -122,7 +133,7 @@ void tst_Options::helpNamesEveryOption()
     const QString help = optionsHelp();
     for (const char *const option :
          {"--headless", "--site", "--scenario", "--speed", "--loop", "--screenshot",
-          "--screenshot-at", "--language", "--log", "--plugin", "--help", "--version"})
+          "--screenshot-at", "--language", "--page", "--log", "--plugin", "--help", "--version"})
         QVERIFY2(help.contains(QString::fromLatin1(option)), option);
     QVERIFY(help.contains(QStringLiteral("Exit codes")));
 }

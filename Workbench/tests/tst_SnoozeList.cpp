@@ -21,6 +21,7 @@ private Q_SLOTS:
     void stateDependsOnTheTimeAlone_data();
     void stateDependsOnTheTimeAlone();
     void activeNodesAreListedInOrder();
+    void activeSnoozesAreWhole();
     void laterSnoozeOfANodeReplacesTheEarlier();
     void expiredSnoozesAreTakenOnceEarliestFirst();
     void nextEndIsTheEarliest();
@@ -52,6 +53,18 @@ void tst_SnoozeList::activeNodesAreListedInOrder()
     list.set(snooze("c", 100));
     QCOMPARE(list.activeNodeIds(100 * Second),
              QStringList({QStringLiteral("a"), QStringLiteral("b")}));
+}
+
+void tst_SnoozeList::activeSnoozesAreWhole()
+{
+    SnoozeList list;
+    list.set(snooze("b", 200));
+    list.set(snooze("c", 100));
+    const std::vector<Snooze> active = list.active(100 * Second);
+    QCOMPARE(active.size(), std::size_t(1));
+    QCOMPARE(active.at(0).nodeId, QStringLiteral("b"));
+    QCOMPARE(active.at(0).errorType, 3);
+    QCOMPARE(active.at(0).endSeconds, qint64(200));
 }
 
 void tst_SnoozeList::laterSnoozeOfANodeReplacesTheEarlier()

@@ -72,6 +72,7 @@ class tst_WorkbenchProgram : public QObject
 private Q_SLOTS:
     void everythingScenarioShowsEveryKindOfHappening();
     void defaultScenarioLeavesAPictureAndALog();
+    void showsAPageOfOnesOwn();
     void walkAfterTheEndIsWaitedFor();
     void speaksGerman();
     void helpAndVersionNeedNothing();
@@ -168,6 +169,22 @@ void tst_WorkbenchProgram::defaultScenarioLeavesAPictureAndALog()
     QCOMPARE(image.size(), QSize(1280, 800));
     QVERIFY(colourCount(image) > 20);
     QVERIFY(QFile::exists(log));
+}
+
+void tst_WorkbenchProgram::showsAPageOfOnesOwn()
+{
+    const QTemporaryDir directory;
+    const QString picture = directory.filePath(QStringLiteral("page.png"));
+    const TextFile scenario(
+        R"({"events": [{"at": 0, "do": "cameraDown", "camera": "office/lobby"}]})");
+    const Outcome outcome = run({QStringLiteral("--headless"), QStringLiteral("--page"),
+                                 QStringLiteral(EXAMPLE_PAGE), QStringLiteral("--scenario"),
+                                 scenario.path(), QStringLiteral("--screenshot"), picture});
+    QCOMPARE(outcome.exitCode, 0);
+    QCOMPARE(outcome.errors, QString());
+    const QImage image(picture);
+    QCOMPARE(image.pixelColor(1270, 790), QColor(Qt::white));
+    QVERIFY(colourCount(image) > 5);
 }
 
 void tst_WorkbenchProgram::walkAfterTheEndIsWaitedFor()

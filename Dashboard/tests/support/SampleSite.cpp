@@ -1,5 +1,6 @@
 #include "SampleSite.h"
 
+#include "FakeLog.h"
 #include "FakePlugin.h"
 
 #include <QDateTime>
@@ -24,6 +25,14 @@ QVariantMap network(const QString &name, double percentage, double bandwidth)
     return {{QStringLiteral("networkInterface"), name},
             {QStringLiteral("networkPercentage"), percentage},
             {QStringLiteral("networkBandwidth"), bandwidth}};
+}
+
+QVariantMap snooze(const QString &nodeID, int type, const QString &name, qint64 timeLeft)
+{
+    return {{QStringLiteral("nodeID"), nodeID},
+            {QStringLiteral("type"), type},
+            {QStringLiteral("until"), SampleSite::now() + timeLeft},
+            {QStringLiteral("name"), name}};
 }
 
 double wave(int step, double middle, double height, double length)
@@ -101,6 +110,43 @@ void fillClient(FakePlugin &plugin)
         const bool failed = step > 100 && step < 130;
         Q_EMIT plugin.clientResourceChanged(failed ? -100 : qRound(wave(step, 22, 9, 15)),
                                             qRound(wave(step, 47, 2, 40)));
+    }
+}
+
+QVariantList snoozes(int count)
+{
+    const QVariantList all{
+        snooze(QStringLiteral("lobby/c7"), 3, QStringLiteral("Stairs to the archive"), 52 * Minute),
+        snooze(QStringLiteral("quay/c12"), 3, QStringLiteral("Berth 9, mooring"), 9 * Minute),
+        snooze(QStringLiteral("quay/annex"), 4, QStringLiteral("Annex recorder"), 26 * Hour),
+        snooze(QStringLiteral("quay/crane/c1"), 3, QStringLiteral("Crane cabin"), 7 * Hour),
+        snooze(QStringLiteral("parking/c3"), 3, QStringLiteral("Barrier, exit"), 0),
+    };
+    return all.first(count);
+}
+
+void endSnooze(FakePlugin &plugin)
+{
+    plugin.addError(3, QStringLiteral("parking"), QStringLiteral("parking/c3"),
+                    {QStringLiteral("Parking deck"), QStringLiteral("Barrier, exit")}, now());
+}
+
+void fillLog(FakeLog &log)
+{
+    const QStringList cameras{QStringLiteral("Berth 9, mooring"), QStringLiteral("Crane cabin"),
+                              QStringLiteral("Stairs to the archive"),
+                              QStringLiteral("Barrier, exit")};
+    for (int i = 0; i < 60; ++i) {
+        const qint64 time = now() - (60 - i) * 47 * Minute;
+        const bool isLogin = i % 5 == 2;
+        log.add(static_cast<double>(time),
+                isLogin ? QStringLiteral("Operator logged in") : QStringLiteral("Error snoozed"),
+                isLogin ? QStringList{QStringLiteral("control room %1").arg(i % 3 + 1)}
+                        : QStringList{QStringLiteral("Camera disconnected"),
+                                      QStringLiteral("Station: Quay NVR / Camera: ")
+                                          + cameras.at(i % 4),
+                                      QDateTime::fromMSecsSinceEpoch(time + Hour)
+                                          .toString(QStringLiteral("yyyy/MM/dd hh:mm:ss"))});
     }
 }
 

@@ -3,6 +3,7 @@
 
 #include <QVariant>
 
+class FakeLog;
 class FakePlugin;
 
 /// A small site for pictures: five stations, one of them below another, with a dozen errors.
@@ -22,6 +23,15 @@ void fillUsage(FakePlugin &plugin);
 
 /// Samples of the client machine, some of them failed.
 void fillClient(FakePlugin &plugin);
+
+/// The first snoozes of five, as the host hands them in; the fifth is over at the moment shown.
+QVariantList snoozes(int count);
+
+/// Brings the error of the fifth snooze back.
+void endSnooze(FakePlugin &plugin);
+
+/// Entries of a few days.
+void fillLog(FakeLog &log);
 
 } // namespace SampleSite
 

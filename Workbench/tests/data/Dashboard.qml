@@ -8,6 +8,10 @@ Item {
     property bool serverConnected: false
     property var connectionSince
     property var stations: []
+    property var snoozes
+    property bool dark: true
+    property QtObject files: null
+    property QtObject operationalLog: null
 
     anchors.fill: parent
 

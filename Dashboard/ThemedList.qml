@@ -1,0 +1,63 @@
+import QtQuick
+import QtQuick.Controls.Basic
+
+/// A list that creates only the rows in sight, which stay in sight when they are replaced.
+///
+/// Keys: arrows, Page, Home and End move.
+ListView {
+    id: list
+
+    /// What the list shows: a list of objects, each its row's modelData.
+    property var rows: []
+    required property real rowHeight
+
+    readonly property int rowsPerPage: Math.max(1, Math.floor(height / rowHeight) - 1)
+
+    clip: true
+    cacheBuffer: 0
+    currentIndex: -1
+    highlightMoveDuration: 0
+    highlightMoveVelocity: -1
+    boundsBehavior: Flickable.StopAtBounds
+    activeFocusOnTab: true
+    pixelAligned: true
+    Accessible.role: Accessible.List
+
+    ScrollBar.vertical: ThemedScrollBar {}
+
+    onRowsChanged: {
+        const top = contentY;
+        const row = currentIndex;
+        model = rows;
+        currentIndex = Math.min(row, count - 1);
+        takeFirst();
+        forceLayout();
+        contentY = Math.max(0, Math.min(top, contentHeight - height));
+    }
+
+    onActiveFocusChanged: takeFirst()
+
+    // The keyboard is always on a row where there is one.
+    function takeFirst() {
+        if (activeFocus && currentIndex < 0 && count > 0)
+            currentIndex = 0;
+    }
+
+    function moveTo(row: int) {
+        currentIndex = Math.max(0, Math.min(count - 1, row));
+    }
+
+    Keys.onPressed: event => {
+        if (event.key === Qt.Key_Home)
+            moveTo(0);
+        else if (event.key === Qt.Key_End)
+            moveTo(count - 1);
+        else if (event.key === Qt.Key_PageUp)
+            moveTo(currentIndex - rowsPerPage);
+        else if (event.key === Qt.Key_PageDown)
+            moveTo(currentIndex + rowsPerPage);
+        else
+            return;
+        event.accepted = true;
+    }
+}

@@ -1,0 +1,63 @@
+import QtQuick
+import QtTest
+import Dashboard
+
+Item {
+    id: root
+
+    width: 300
+    height: 60
+
+    Component {
+        id: fieldComponent
+
+        SearchField {
+            placeholderText: "Search"
+            onSearched: text => applied = text
+        }
+    }
+
+    DashboardCase {
+        name: "SearchField"
+
+        property SearchField field
+
+        function prepare() {
+            field = make(fieldComponent);
+            field.start();
+        }
+
+        function test_appliesAfterAPause() {
+            prepare();
+            keyClick("d");
+            keyClick("o");
+            compare(field.applied, "");
+            tryCompare(field, "applied", "do");
+        }
+
+        function test_returnAppliesAtOnce() {
+            prepare();
+            keyClick("d");
+            keyClick(Qt.Key_Return);
+            compare(field.applied, "d");
+        }
+
+        function test_followsItsOwner() {
+            prepare();
+            keyClick("d");
+            field.applied = "gate";
+            compare(field.text, "gate");
+            wait(200);
+            compare(field.applied, "gate");
+        }
+
+        function test_resetForgetsWhatDoesNotApply() {
+            prepare();
+            keyClick("d");
+            field.reset();
+            compare(field.text, "");
+            wait(200);
+            compare(field.applied, "");
+        }
+    }
+}
