@@ -149,7 +149,6 @@ Panel {
 
             Layout.fillWidth: true
             Layout.fillHeight: true
-            focus: true
             rows: page.sheet.entries
             rowHeight: narrow ? Theme.em(3.4) : Theme.rowHeight
             Accessible.name: qsTr("Operational log")

@@ -83,7 +83,6 @@ Panel {
 
             Layout.fillWidth: true
             Layout.fillHeight: true
-            focus: true
             rows: page.book.rows
             rowHeight: Theme.em(3.6)
             Accessible.name: qsTr("Snoozed")
