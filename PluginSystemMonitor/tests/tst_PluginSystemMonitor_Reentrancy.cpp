@@ -466,6 +466,7 @@ void tst_PluginSystemMonitor_Reentrancy::historyThatOthersEmptiedGrowsAgain()
     QStandardItemModel *const model = hosted.plugin.resourceModelControl->model();
     model->setData(model->index(0, 0), QVariantList(), SystemResourceModelItem::UsageListRole);
     model->setData(model->index(1, 0), QVariant(), SystemResourceModelItem::UsageListRole);
+    hosted.event(u"SystemResChanged"_s, report(20, {}));
     hosted.event(u"SystemResChanged"_s, report(10, {}));
     for (int row = 0; row < 2; ++row) {
         QCOMPARE(model->index(row, 0).data(SystemResourceModelItem::UsageListRole).toList(),
