@@ -1,5 +1,6 @@
 #include "Options.h"
 
+#include "BundledFile.h"
 #include "InputError.h"
 
 #include <QCommandLineParser>
@@ -26,7 +27,6 @@ public:
 
 private:
     double number(const QCommandLineOption &option, double greatest) const;
-    QString bundledOrFile(const QCommandLineOption &option, const QString &folder) const;
 
     const QCommandLineOption m_headless{
         QStringLiteral("headless"),
@@ -108,8 +108,8 @@ Options OptionParser::parse(const QStringList &arguments)
     options.wantsVersion = m_parser.isSet(m_version);
     options.isHeadless = m_parser.isSet(m_headless);
     options.isLooped = m_parser.isSet(m_loop);
-    options.siteFile = bundledOrFile(m_site, QStringLiteral("sites"));
-    options.scenarioFile = bundledOrFile(m_scenario, QStringLiteral("scenarios"));
+    options.siteFile = bundledOrFile(QStringLiteral("sites"), m_parser.value(m_site));
+    options.scenarioFile = bundledOrFile(QStringLiteral("scenarios"), m_parser.value(m_scenario));
     options.pluginFile = m_parser.value(m_plugin);
     options.pageFile = m_parser.value(m_page);
     if (m_parser.isSet(m_page) && !QFileInfo(options.pageFile).isFile())
@@ -142,13 +142,6 @@ double OptionParser::number(const QCommandLineOption &option, double greatest) c
                              .arg(greatest)
                              .arg(text));
     return number;
-}
-
-QString OptionParser::bundledOrFile(const QCommandLineOption &option, const QString &folder) const
-{
-    const QString value = m_parser.value(option);
-    const QString bundled = QStringLiteral(":/workbench/%1/%2.json").arg(folder, value);
-    return !QFileInfo::exists(value) && QFileInfo::exists(bundled) ? bundled : value;
 }
 
 } // namespace

@@ -9,6 +9,7 @@ Workbench::Workbench(PluginHost &host, QQmlContext *context, const Site &site,
     : m_host(host)
     , m_initialSite(site)
     , m_server(site, clock)
+    , m_siteActor(m_server)
     , m_link(m_server)
     , m_framework([this](const QString &command, const QVariant &data, const QString &target) {
         return m_link.execute(command, data, target);
@@ -22,7 +23,7 @@ Workbench::Workbench(PluginHost &host, QQmlContext *context, const Site &site,
     m_surface = std::make_unique<PluginSurface>(*host.plugin());
     m_errorWatch = std::make_unique<ErrorListWatch>(m_surface->errorModel());
     m_actor = std::make_unique<ScenarioActor>(
-        ScenarioActor::Stage{m_server, m_link, m_topology, *m_surface, clock});
+        ScenarioActor::Stage{&m_siteActor, m_link, m_topology, *m_surface, clock});
     wireServer();
     connect(m_surface.get(), &PluginSurface::clientResourceChanged, &m_localStation,
             &LocalStation::report);

@@ -12,6 +12,7 @@
 #include "ScenarioActor.h"
 #include "ScenarioDriver.h"
 #include "ServerLink.h"
+#include "SiteActor.h"
 #include "SiteServer.h"
 #include "TopologyPlugin.h"
 
@@ -59,6 +60,7 @@ private:
     PluginHost &m_host;
     const Site m_initialSite;
     SiteServer m_server;
+    SiteActor m_siteActor;
     ServerLink m_link;
     Framework m_framework;
     TopologyPlugin m_topology;

@@ -22,7 +22,6 @@ private Q_SLOTS:
     void everythingHasADefault();
     void readsEveryOption();
     void bundledFilesGoByTheirNames();
-    void filesComeBeforeBundledOnes();
     void pageIsAFile();
     void wrongOptionsAreRefused_data();
     void wrongOptionsAreRefused();
@@ -74,16 +73,6 @@ void tst_Options::bundledFilesGoByTheirNames()
              QStringLiteral(":/workbench/scenarios/everything.json"));
     QCOMPARE(parse({QStringLiteral("--scenario"), QStringLiteral("nothing")}).scenarioFile,
              QStringLiteral("nothing"));
-}
-
-void tst_Options::filesComeBeforeBundledOnes()
-{
-    const TextFile file("{}", QStringLiteral("everything"));
-    const QString before = QDir::currentPath();
-    QDir::setCurrent(QFileInfo(file.path()).path());
-    QCOMPARE(parse({QStringLiteral("--scenario"), QStringLiteral("everything")}).scenarioFile,
-             QStringLiteral("everything"));
-    QDir::setCurrent(before);
 }
 
 void tst_Options::pageIsAFile()
