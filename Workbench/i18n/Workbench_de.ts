@@ -2,10 +2,52 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE">
 <context>
+    <name>AccessToken</name>
+    <message>
+        <source>%1: cannot be read: %2</source>
+        <translation>%1: kann nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>%1: expected a token of %2 to %3 characters, found %4</source>
+        <translation>%1: erwartet: ein Kennwort von %2 bis %3 Zeichen, gefunden: %4</translation>
+    </message>
+    <message>
+        <source>%1: expected a token in one line without blanks</source>
+        <translation>%1: erwartet: ein Kennwort in einer Zeile ohne Leerzeichen</translation>
+    </message>
+</context>
+<context>
     <name>Catalogues</name>
     <message>
         <source>--language: expected en or de, found &quot;%1&quot;.</source>
         <translation>--language: erwartet: en oder de, gefunden: „%1“.</translation>
+    </message>
+</context>
+<context>
+    <name>ClientSession</name>
+    <message>
+        <source>message: expected text, found binary data</source>
+        <translation>Nachricht: erwartet: Text, gefunden: Binärdaten</translation>
+    </message>
+    <message>
+        <source>expected a hello within %1 seconds</source>
+        <translation>erwartet: eine Begrüßung binnen %1 Sekunden</translation>
+    </message>
+    <message>
+        <source>message: expected one hello, found another</source>
+        <translation>Nachricht: erwartet: eine einzige Begrüßung, gefunden: noch eine</translation>
+    </message>
+    <message>
+        <source>expected a token</source>
+        <translation>erwartet: ein Kennwort</translation>
+    </message>
+    <message>
+        <source>the token is wrong</source>
+        <translation>das Kennwort ist falsch</translation>
+    </message>
+    <message>
+        <source>message: expected a hello first</source>
+        <translation>Nachricht: erwartet: zuerst eine Begrüßung</translation>
     </message>
 </context>
 <context>
@@ -138,6 +180,14 @@
         <source>%1%</source>
         <translation>%1 %</translation>
     </message>
+    <message>
+        <source>%1; next try in %2 s</source>
+        <translation>%1; nächster Versuch in %2 s</translation>
+    </message>
+    <message>
+        <source>refuses this client: %1</source>
+        <translation>weist diesen Client ab: %1</translation>
+    </message>
 </context>
 <context>
     <name>DashboardWindow</name>
@@ -255,6 +305,25 @@
     </message>
 </context>
 <context>
+    <name>Message</name>
+    <message>
+        <source>version %1</source>
+        <translation>Version %1</translation>
+    </message>
+    <message>
+        <source>message</source>
+        <translation>Nachricht</translation>
+    </message>
+    <message>
+        <source>one of %1</source>
+        <translation>eines von %1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;</source>
+        <translation>„%1“</translation>
+    </message>
+</context>
+<context>
     <name>OperationalLogStore</name>
     <message>
         <source>%1: cannot be used for the operational log: %2</source>
@@ -340,11 +409,28 @@
         <translation>--%1: erwartet: eine Zahl größer als 0 und bis %2, gefunden: „%3“.</translation>
     </message>
     <message>
+        <source>Show the site of this site-server instead of one in this program. The scenario is then watch unless --scenario is given, and only what clients and their users do is taken from it; its ids are checked with --site.</source>
+        <translation>Den Standort dieses site-servers zeigen statt eines Standorts in diesem Programm. Das Szenario ist dann watch, wenn --scenario nichts anderes sagt, und nur was Clients und ihre Benutzer tun, wird ihm entnommen; seine Ids werden anhand von --site geprüft.</translation>
+    </message>
+    <message>
+        <source>ws://host:port</source>
+        <translation>ws://Rechner:Port</translation>
+    </message>
+    <message>
+        <source>Give that server the token that is in this file.</source>
+        <translation>Diesem Server das Kennwort nennen, das in dieser Datei steht.</translation>
+    </message>
+    <message>
+        <source>Keep the snoozes of the site in this SQLite file, for the next time. Without it they end with the program.</source>
+        <translation>Die Zurückstellungen des Standorts für das nächste Mal in dieser SQLite-Datei aufbewahren. Ohne sie enden sie mit dem Programm.</translation>
+    </message>
+    <message>
         <source>Runs the system-monitor plug-in in a stand-in for its host: with a site of recording stations and cameras, a scenario of what happens there, and this machine&apos;s own load.
 
   workbench                                       show the dashboard
   workbench --headless --scenario everything      print what happens
   workbench --headless --screenshot picture.png   save a picture as well
+  workbench --server ws://127.0.0.1:8765          show the site of a site-server
 
 Exit codes: 0 all went well, 1 the work could not be done, 2 an option or a file is wrong.</source>
         <translation>Führt das Plug-in zur Systemüberwachung in einem Ersatz für sein Wirtsprogramm aus: mit einem Standort aus Aufzeichnungsstationen und Kameras, einem Szenario der Ereignisse und der Auslastung dieses Rechners.
@@ -352,6 +438,7 @@ Exit codes: 0 all went well, 1 the work could not be done, 2 an option or a file
   workbench                                       die Übersicht zeigen
   workbench --headless --scenario everything      ausgeben, was geschieht
   workbench --headless --screenshot picture.png   auch ein Bild speichern
+  workbench --server ws://127.0.0.1:8765          den Standort eines site-servers zeigen
 
 Rückgabewerte: 0 alles ging gut, 1 die Arbeit war nicht möglich, 2 eine Option oder eine Datei ist falsch.</translation>
     </message>
@@ -362,6 +449,18 @@ Rückgabewerte: 0 alles ging gut, 1 die Arbeit war nicht möglich, 2 eine Option
     <message>
         <source>--page: expected a QML file, found &quot;%1&quot;.</source>
         <translation>--page: erwartet: eine QML-Datei, gefunden: „%1“.</translation>
+    </message>
+    <message>
+        <source>--token-file: expected --server URL as well.</source>
+        <translation>--token-file: erwartet: auch --server URL.</translation>
+    </message>
+    <message>
+        <source>--server: expected an address such as ws://127.0.0.1:8765, found &quot;%1&quot;.</source>
+        <translation>--server: erwartet: eine Adresse wie ws://127.0.0.1:8765, gefunden: „%1“.</translation>
+    </message>
+    <message>
+        <source>--%1: expected without --server.</source>
+        <translation>--%1: erwartet: nur ohne --server.</translation>
     </message>
 </context>
 <context>
@@ -406,6 +505,21 @@ Rückgabewerte: 0 alles ging gut, 1 die Arbeit war nicht möglich, 2 eine Option
     </message>
 </context>
 <context>
+    <name>RemoteServerLink</name>
+    <message>
+        <source>the server does not answer</source>
+        <translation>der Server antwortet nicht</translation>
+    </message>
+    <message>
+        <source>the server has closed the connection</source>
+        <translation>der Server hat die Verbindung beendet</translation>
+    </message>
+    <message>
+        <source>expected a welcome first</source>
+        <translation>erwartet: zuerst ein Willkommen</translation>
+    </message>
+</context>
+<context>
     <name>ScenarioFile</name>
     <message>
         <source>one of %1</source>
@@ -441,6 +555,78 @@ Rückgabewerte: 0 alles ging gut, 1 die Arbeit war nicht möglich, 2 eine Option
     </message>
 </context>
 <context>
+    <name>ServerGate</name>
+    <message>
+        <source>the server has %1 clients already</source>
+        <translation>der Server hat bereits %1 Clients</translation>
+    </message>
+</context>
+<context>
+    <name>ServerOptions</name>
+    <message>
+        <source>The site: a JSON file, or the name of a bundled one (default).</source>
+        <translation>Der Standort: eine JSON-Datei oder der Name eines mitgelieferten (default).</translation>
+    </message>
+    <message>
+        <source>file</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Let happen at the site what a scenario tells: a JSON file, or the name of a bundled one (default, everything). What it tells of clients and their users is left out. Without this nothing happens but what clients ask for.</source>
+        <translation>Am Standort geschehen lassen, was ein Szenario erzählt: eine JSON-Datei oder der Name eines mitgelieferten (default, everything). Was es von Clients und ihren Benutzern erzählt, bleibt weg. Ohne dies geschieht nur, worum Clients bitten.</translation>
+    </message>
+    <message>
+        <source>Keep the snoozes in this SQLite file, so that they outlive the server. Without it they end with the server.</source>
+        <translation>Die Zurückstellungen in dieser SQLite-Datei aufbewahren, sodass sie den Server überdauern. Ohne sie enden sie mit dem Server.</translation>
+    </message>
+    <message>
+        <source>Where clients connect: an address of this machine and a port, 0 for any free one. Other than on a loopback address, this needs --token-file.</source>
+        <translation>Wohin sich Clients verbinden: eine Adresse dieses Rechners und ein Port, 0 für irgendeinen freien. Außer bei einer Loopback-Adresse ist dazu --token-file nötig.</translation>
+    </message>
+    <message>
+        <source>address:port</source>
+        <translation>Adresse:Port</translation>
+    </message>
+    <message>
+        <source>Turn away clients that do not give the token that is in this file: 16 to 1024 characters in one line. It travels as it is; see docs/site-protocol.md for encryption.</source>
+        <translation>Clients abweisen, die nicht das Kennwort nennen, das in dieser Datei steht: 16 bis 1024 Zeichen in einer Zeile. Es wird unverschlüsselt übertragen; zur Verschlüsselung siehe docs/site-protocol.md.</translation>
+    </message>
+    <message>
+        <source>Print this help.</source>
+        <translation>Diese Hilfe ausgeben.</translation>
+    </message>
+    <message>
+        <source>Print the version.</source>
+        <translation>Die Version ausgeben.</translation>
+    </message>
+    <message>
+        <source>Serves a simulated video-surveillance site to Workbenches: the states of its stations, cameras, volumes and recordings, and the snoozes, which all its clients share. It runs until it is ended.
+
+  site-server --store snoozes.sqlite          serve the bundled site on this machine
+  workbench --server ws://127.0.0.1:8765      show it, in another terminal
+
+Exit codes: 1 the work could not be done, 2 an option or a file is wrong.</source>
+        <translation>Stellt Workbenches einen simulierten Standort der Videoüberwachung bereit: die Zustände seiner Stationen, Kameras, Volumes und Aufzeichnungen und die Zurückstellungen, die alle Clients teilen. Läuft, bis es beendet wird.
+
+  site-server --store snoozes.sqlite          den mitgelieferten Standort auf diesem Rechner bereitstellen
+  workbench --server ws://127.0.0.1:8765      ihn zeigen, in einem anderen Terminal
+
+Rückgabewerte: 1 die Arbeit war nicht möglich, 2 eine Option oder eine Datei ist falsch.</translation>
+    </message>
+    <message>
+        <source>Expected options only, found &quot;%1&quot;.</source>
+        <translation>Erwartet: nur Optionen, gefunden: „%1“.</translation>
+    </message>
+    <message>
+        <source>--listen: expected an address and a port, such as 127.0.0.1:8765 or [::1]:8765, found &quot;%1&quot;.</source>
+        <translation>--listen: erwartet: eine Adresse und ein Port wie 127.0.0.1:8765 oder [::1]:8765, gefunden: „%1“.</translation>
+    </message>
+    <message>
+        <source>--listen: expected --token-file FILE as well, since %1 can be reached from other machines.</source>
+        <translation>--listen: erwartet: auch --token-file FILE, weil %1 von anderen Rechnern aus erreichbar ist.</translation>
+    </message>
+</context>
+<context>
     <name>SiteFile</name>
     <message>
         <source>an id without &quot;/&quot;</source>
@@ -464,6 +650,29 @@ Rückgabewerte: 0 alles ging gut, 1 die Arbeit war nicht möglich, 2 eine Option
     </message>
 </context>
 <context>
+    <name>SnoozeStore</name>
+    <message>
+        <source>the file is damaged: %1</source>
+        <translation>die Datei ist beschädigt: %1</translation>
+    </message>
+    <message>
+        <source>an SQLite file of another kind</source>
+        <translation>eine SQLite-Datei anderer Art</translation>
+    </message>
+    <message>
+        <source>a file of version %1</source>
+        <translation>eine Datei der Version %1</translation>
+    </message>
+    <message>
+        <source>%1: expected a file of snoozes that can be written, found: %2</source>
+        <translation>%1: erwartet: eine beschreibbare Datei mit Zurückstellungen, gefunden: %2</translation>
+    </message>
+    <message>
+        <source>%1: cannot be written: %2</source>
+        <translation>%1: kann nicht geschrieben werden: %2</translation>
+    </message>
+</context>
+<context>
     <name>WindowRun</name>
     <message>
         <source>%1 cannot be written</source>
@@ -473,12 +682,27 @@ Rückgabewerte: 0 alles ging gut, 1 die Arbeit war nicht möglich, 2 eine Option
         <source>Picture saved as %1</source>
         <translation>Bild gespeichert als %1</translation>
     </message>
+    <message>
+        <source>The server refuses this client: %1</source>
+        <translation>Der Server weist diesen Client ab: %1</translation>
+    </message>
 </context>
 <context>
     <name>main</name>
     <message>
         <source>--loop: expected a window.</source>
         <translation>--loop: erwartet: ein Fenster.</translation>
+    </message>
+</context>
+<context>
+    <name>site-server</name>
+    <message>
+        <source>--listen: %1, port %2: %3</source>
+        <translation>--listen: %1, Port %2: %3</translation>
+    </message>
+    <message>
+        <source>listening on %1</source>
+        <translation>wartet auf Verbindungen an %1</translation>
     </message>
 </context>
 </TS>

@@ -87,7 +87,7 @@ void ClientSession::take(const ClientMessage::Hello &hello)
     if (!m_token.admits(hello.token))
         return refuse(hello.token.isEmpty() ? tr("expected a token") : tr("the token is wrong"));
     m_phase = Phase::Welcome;
-    send(toText(ServerMessage::Welcome{m_server.site()}));
+    send(toText(ServerMessage::Welcome{m_server.site(), m_server.snoozes()}));
     m_heartbeat.start();
 }
 

@@ -102,6 +102,15 @@ void ConsoleReport::followServer(Workbench &workbench)
     connect(&link, &ServerLink::opened, this, [this] { writeLine(tr("server"), tr("connected")); });
     connect(&link, &ServerLink::closed, this,
             [this] { writeLine(tr("server"), tr("connection lost")); });
+    connect(&link, &ServerLink::attemptFailed, this, [this](const QString &reason, qint64 pauseMs) {
+        writeLine(
+            tr("server"),
+            tr("%1; next try in %2 s")
+                .arg(reason, QLocale().toString(static_cast<double>(pauseMs) / 1000.0, 'f', 1)));
+    });
+    connect(&link, &ServerLink::refused, this, [this](const QString &reason) {
+        writeLine(tr("server"), tr("refuses this client: %1").arg(reason));
+    });
     connect(&workbench, &Workbench::eventArrived, this, &ConsoleReport::writeEvent);
     connect(&workbench.topology(), &TopologyPlugin::camStatusRetrievedChanged, this,
             [this](bool success) {

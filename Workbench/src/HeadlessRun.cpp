@@ -2,6 +2,7 @@
 
 #include "ConsoleReport.h"
 #include "Screenshot.h"
+#include "ServerLink.h"
 #include "Workbench.h"
 
 #include <QCoreApplication>
@@ -20,6 +21,10 @@ HeadlessRun::HeadlessRun(Workbench &workbench, ConsoleReport &report, Screenshot
             &HeadlessRun::takeScreenshot);
     connect(&workbench.driver(), &ScenarioDriver::finished, &m_quiet, &QuietPeriod::start);
     connect(&m_quiet, &QuietPeriod::reached, this, &HeadlessRun::end);
+    connect(&workbench.link(), &ServerLink::refused, this, [this] {
+        m_exitCode = EXIT_FAILURE;
+        end();
+    });
 }
 
 int HeadlessRun::exec()

@@ -20,7 +20,8 @@ public:
     /// @param screenshot to be taken on the way or in the end, or null
     HeadlessRun(Workbench &workbench, ConsoleReport &report, Screenshot *screenshot);
 
-    /// Runs the application. Returns its exit code: 0, or 1 when the picture could not be written.
+    /// Runs the application. Returns its exit code: 0, or 1 when the picture could not be written
+    /// or the server refused this client.
     int exec();
 
 private:

@@ -26,6 +26,8 @@ public:
     QString help() const;
 
 private:
+    void readServer(Options &options) const;
+    void expectWithoutServer(const QCommandLineOption &option) const;
     double number(const QCommandLineOption &option, double greatest) const;
 
     const QCommandLineOption m_headless{
@@ -72,6 +74,20 @@ private:
         QStringLiteral("plugin"),
         tr("Load this plug-in file instead of the one that was built with this program."),
         tr("file")};
+    const QCommandLineOption m_server{
+        QStringLiteral("server"),
+        tr("Show the site of this site-server instead of one in this program. The scenario is then "
+           "watch unless --scenario is given, and only what clients and their users do is taken "
+           "from it; its ids are checked with --site."),
+        tr("ws://host:port")};
+    const QCommandLineOption m_token{QStringLiteral("token-file"),
+                                     tr("Give that server the token that is in this file."),
+                                     tr("file")};
+    const QCommandLineOption m_store{
+        QStringLiteral("store"),
+        tr("Keep the snoozes of the site in this SQLite file, for the next time. Without it they "
+           "end with the program."),
+        tr("file")};
     const QCommandLineOption m_help{{QStringLiteral("h"), QStringLiteral("help")},
                                     tr("Print this help.")};
     const QCommandLineOption m_version{{QStringLiteral("v"), QStringLiteral("version")},
@@ -88,12 +104,14 @@ OptionParser::OptionParser()
            "  workbench                                       show the dashboard\n"
            "  workbench --headless --scenario everything      print what happens\n"
            "  workbench --headless --screenshot picture.png   save a picture as well\n"
+           "  workbench --server ws://127.0.0.1:8765          show the site of a site-server\n"
            "\n"
            "Exit codes: 0 all went well, 1 the work could not be done, 2 an option or a file is "
            "wrong."));
     m_parser.addOption(m_page);
     m_parser.addOptions({m_headless, m_site, m_scenario, m_speed, m_loop, m_screenshot,
-                         m_screenshotAt, m_language, m_log, m_plugin, m_help, m_version});
+                         m_screenshotAt, m_language, m_log, m_plugin, m_server, m_token, m_store,
+                         m_help, m_version});
 }
 
 Options OptionParser::parse(const QStringList &arguments)
@@ -109,7 +127,10 @@ Options OptionParser::parse(const QStringList &arguments)
     options.isHeadless = m_parser.isSet(m_headless);
     options.isLooped = m_parser.isSet(m_loop);
     options.siteFile = bundledOrFile(QStringLiteral("sites"), m_parser.value(m_site));
-    options.scenarioFile = bundledOrFile(QStringLiteral("scenarios"), m_parser.value(m_scenario));
+    const bool onlyWatches = m_parser.isSet(m_server) && !m_parser.isSet(m_scenario);
+    options.scenarioFile =
+        bundledOrFile(QStringLiteral("scenarios"),
+                      onlyWatches ? QStringLiteral("watch") : m_parser.value(m_scenario));
     options.pluginFile = m_parser.value(m_plugin);
     options.pageFile = m_parser.value(m_page);
     if (m_parser.isSet(m_page) && !QFileInfo(options.pageFile).isFile())
@@ -123,7 +144,36 @@ Options OptionParser::parse(const QStringList &arguments)
         options.screenshotAtMs = std::llround(number(m_screenshotAt, MaxSeconds) * 1000.0);
     if (m_parser.isSet(m_log))
         options.logFile = m_parser.value(m_log);
+    options.storeFile = m_parser.value(m_store);
+    readServer(options);
     return options;
+}
+
+void OptionParser::readServer(Options &options) const
+{
+    options.tokenFile = m_parser.value(m_token);
+    if (!m_parser.isSet(m_server)) {
+        if (!options.tokenFile.isEmpty())
+            throw InputError(tr("--token-file: expected --server URL as well."));
+        return;
+    }
+    const QString text = m_parser.value(m_server);
+    options.serverUrl = QUrl(text, QUrl::StrictMode);
+    const QStringList schemes{QStringLiteral("ws"), QStringLiteral("wss")};
+    if (!options.serverUrl.isValid() || !schemes.contains(options.serverUrl.scheme())
+        || options.serverUrl.host().isEmpty())
+        throw InputError(
+            tr("--server: expected an address such as ws://127.0.0.1:8765, found \"%1\".")
+                .arg(text));
+    expectWithoutServer(m_store);
+    expectWithoutServer(m_speed);
+}
+
+// The snoozes and the clock are that server's.
+void OptionParser::expectWithoutServer(const QCommandLineOption &option) const
+{
+    if (m_parser.isSet(option))
+        throw InputError(tr("--%1: expected without --server.").arg(option.names().constFirst()));
 }
 
 QString OptionParser::help() const

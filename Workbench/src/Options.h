@@ -3,6 +3,7 @@
 
 #include <QString>
 #include <QStringList>
+#include <QUrl>
 
 #include <optional>
 
@@ -16,6 +17,9 @@ struct Options
     QString screenshotFile;               ///< empty for none
     std::optional<qint64> screenshotAtMs; ///< of the scenario; the scenario decides without it
     std::optional<QString> logFile;
+    QUrl serverUrl;    ///< empty for a server in this process
+    QString tokenFile; ///< for the server, empty for none
+    QString storeFile; ///< of the server in this process, empty for none
     QString language;
     double speed = 1.0;
     bool isHeadless = false;

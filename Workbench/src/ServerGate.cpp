@@ -2,6 +2,7 @@
 
 #include "ClientSession.h"
 #include "ServerMessages.h"
+#include "ServerNames.h"
 #include "SiteServer.h"
 
 #include <QWebSocket>
@@ -12,6 +13,12 @@
 namespace {
 
 constexpr int HandshakeMs = 5000;
+
+bool tellsOfSnoozes(const QString &event)
+{
+    return event == ServerNames::SnoozeError || event == ServerNames::DeviceStillError
+           || event == ServerNames::RemoveSnooze;
+}
 
 } // namespace
 
@@ -77,6 +84,8 @@ void ServerGate::relaySignals()
     });
     connect(&m_server, &SiteServer::eventRaised, this,
             [this](const QString &name, const QVariant &data, const QString &sourceId) {
+                if (tellsOfSnoozes(name))
+                    tellAll(ServerMessage::Snoozes{m_server.snoozes()});
                 tellAll(ServerMessage::Event{name, data, sourceId});
             });
 }

@@ -1,13 +1,19 @@
 #include "ServerMessages.h"
 
 #include "Message.h"
+#include "ServerNames.h"
 #include "SiteJson.h"
+
+#include <QJsonArray>
 
 #include <limits>
 
 using namespace ServerMessage;
 
 namespace {
+
+// The last second of the year 9999.
+constexpr double LatestEndSeconds = 253'402'300'799;
 
 const QString WelcomeType = QStringLiteral("welcome");
 const QString RefusedType = QStringLiteral("refused");
@@ -16,6 +22,7 @@ const QString NodeStatusType = QStringLiteral("nodeStatus");
 const QString CameraRemovedType = QStringLiteral("cameraRemoved");
 const QString StationRemovedType = QStringLiteral("stationRemoved");
 const QString StorageChangedType = QStringLiteral("storageChanged");
+const QString SnoozesType = QStringLiteral("snoozes");
 const QString EventType = QStringLiteral("event");
 
 const QString SiteKey = QStringLiteral("site");
@@ -28,11 +35,36 @@ const QString StationKey = QStringLiteral("station");
 const QString ConnectedKey = QStringLiteral("connected");
 const QString NameKey = QStringLiteral("name");
 const QString SourceKey = QStringLiteral("source");
+const QString SnoozesKey = QStringLiteral("snoozes");
+
+std::vector<Snooze> readSnoozes(JsonObject &object)
+{
+    std::vector<Snooze> snoozes;
+    for (JsonObject &entry : object.requiredObjects(SnoozesKey)) {
+        snoozes.push_back(
+            {entry.text(ServerNames::KeyNodeId),
+             entry.wholeNumber(ServerNames::KeyType, ServerNames::CameraDisconnected,
+                               ServerNames::StationDisconnected),
+             static_cast<qint64>(entry.number(ServerNames::KeyTimestamp, 0, LatestEndSeconds))});
+        entry.expectNoMore();
+    }
+    return snoozes;
+}
+
+void writeSnoozes(const std::vector<Snooze> &snoozes, QJsonObject &object)
+{
+    QJsonArray array;
+    for (const Snooze &snooze : snoozes)
+        array.append(QJsonObject{{ServerNames::KeyNodeId, snooze.nodeId},
+                                 {ServerNames::KeyType, snooze.errorType},
+                                 {ServerNames::KeyTimestamp, snooze.endSeconds}});
+    object.insert(SnoozesKey, array);
+}
 
 Welcome readWelcome(JsonObject &object)
 {
     JsonObject site = object.object(SiteKey);
-    return {readSite(site)};
+    return {readSite(site), readSnoozes(object)};
 }
 
 Result readResult(JsonObject &object)
@@ -68,6 +100,7 @@ QString toText(const Welcome &welcome)
 {
     QJsonObject object = Message::object(WelcomeType);
     object.insert(SiteKey, toJson(welcome.site));
+    writeSnoozes(welcome.snoozes, object);
     return Message::toText(object);
 }
 
@@ -117,6 +150,13 @@ QString toText(const StorageChanged &changed)
     return Message::toText(object);
 }
 
+QString toText(const Snoozes &snoozes)
+{
+    QJsonObject object = Message::object(SnoozesType);
+    writeSnoozes(snoozes.snoozes, object);
+    return Message::toText(object);
+}
+
 QString toText(const Event &event)
 {
     QJsonObject object = Message::object(EventType);
@@ -145,6 +185,8 @@ AnyServerMessage readServerMessage(const QString &text)
          }},
         {StorageChangedType,
          [](JsonObject &object) -> AnyServerMessage { return readStorageChanged(object); }},
+        {SnoozesType,
+         [](JsonObject &object) -> AnyServerMessage { return Snoozes{readSnoozes(object)}; }},
         {EventType, [](JsonObject &object) -> AnyServerMessage { return readEvent(object); }},
     };
     return Message::read(text, readers);

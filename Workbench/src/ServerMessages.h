@@ -2,11 +2,13 @@
 #define SERVERMESSAGES_H
 
 #include "Site.h"
+#include "SnoozeList.h"
 
 #include <QString>
 #include <QVariant>
 
 #include <variant>
+#include <vector>
 
 /// What a site server says to its clients. docs/site-protocol.md describes it.
 namespace ServerMessage {
@@ -18,6 +20,7 @@ constexpr quint64 MaxBytes = 64 * 1024 * 1024;
 struct Welcome
 {
     Site site;
+    std::vector<Snooze> snoozes; ///< in force
 };
 
 /// The last message on a connection that the server will not have.
@@ -55,6 +58,12 @@ struct StorageChanged
     Station station; ///< with its id, volumes and recording groups alone
 };
 
+/// The snoozes in force, all of them. It comes before the event that tells of a change.
+struct Snoozes
+{
+    std::vector<Snooze> snoozes;
+};
+
 struct Event
 {
     QString name;
@@ -64,10 +73,11 @@ struct Event
 
 } // namespace ServerMessage
 
-using AnyServerMessage = std::variant<ServerMessage::Welcome, ServerMessage::Refused,
-                                      ServerMessage::Result, ServerMessage::NodeStatus,
-                                      ServerMessage::CameraRemoved, ServerMessage::StationRemoved,
-                                      ServerMessage::StorageChanged, ServerMessage::Event>;
+using AnyServerMessage =
+    std::variant<ServerMessage::Welcome, ServerMessage::Refused, ServerMessage::Result,
+                 ServerMessage::NodeStatus, ServerMessage::CameraRemoved,
+                 ServerMessage::StationRemoved, ServerMessage::StorageChanged,
+                 ServerMessage::Snoozes, ServerMessage::Event>;
 
 QString toText(const ServerMessage::Welcome &welcome);
 QString toText(const ServerMessage::Refused &refused);
@@ -76,6 +86,7 @@ QString toText(const ServerMessage::NodeStatus &status);
 QString toText(const ServerMessage::CameraRemoved &removed);
 QString toText(const ServerMessage::StationRemoved &removed);
 QString toText(const ServerMessage::StorageChanged &changed);
+QString toText(const ServerMessage::Snoozes &snoozes);
 QString toText(const ServerMessage::Event &event);
 
 /// Throws InputError when a text is no such message.

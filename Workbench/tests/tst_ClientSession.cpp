@@ -112,10 +112,12 @@ void tst_ClientSession::commandIsAnsweredBeforeItsEvents()
     client.sendText(R"({"type":"command","id":7,"name":"setSnooze",)"
                     R"("data":{"nodeID":"north/c1","type":3,"timestamp":)"
                     + end + "}}");
-    lastText(client, 3);
+    lastText(client, 4);
     QCOMPARE(client.texts().mid(1),
              QList<QByteArray>({R"({"code":"0","data":{"nodeID":"north/c1","timestamp":)" + end
                                     + R"(,"type":3},"id":7,"type":"result"})",
+                                R"({"snoozes":[{"nodeID":"north/c1","timestamp":)" + end
+                                    + R"(,"type":3}],"type":"snoozes"})",
                                 R"({"data":{"nodeID":"north/c1","type":3},"name":"SnoozeError",)"
                                 R"("type":"event"})"}));
 }
@@ -206,7 +208,8 @@ void tst_ClientSession::framesThatBreakTheRulesEndTheConnection_data()
     QTest::addColumn<int>("code");
     const quint8 text = RawClient::Text;
     QTest::newRow("binary data") << quint8(RawClient::Binary) << QByteArray("\1\2") << true << 1008;
-    QTest::newRow("too large") << text << QByteArray(64 * 1024 + 1, ' ') << true << 1009;
+    QTest::newRow("too large") << text << QByteArray(ClientMessage::MaxBytes + 1, ' ') << true
+                               << 1009;
     QTest::newRow("no UTF-8") << text << QByteArray("\"\xff\xfe\"") << true << 1007;
     QTest::newRow("unmasked") << text << QByteArray("{}") << false << 1008;
     QTest::newRow("reserved kind") << quint8(5) << QByteArray("{}") << true << 1002;

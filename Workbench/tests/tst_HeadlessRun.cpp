@@ -24,6 +24,7 @@ private Q_SLOTS:
     void screenshotIsTakenWhenItIsDue();
     void screenshotIsTakenAtTheEndOtherwise();
     void screenshotThatCannotBeWrittenShowsInTheExitCode();
+    void refusalEndsTheRun();
 
 private:
     int run(const Scenario &scenario, const QString &picture = {});
@@ -92,6 +93,16 @@ void tst_HeadlessRun::screenshotThatCannotBeWrittenShowsInTheExitCode()
     const QString file = m_directory.filePath(QStringLiteral("picture.unknown"));
     QCOMPARE(run({{}, {}, 0}, file), 1);
     QVERIFY(m_output.contains(file + QStringLiteral(" cannot be written")));
+    QVERIFY(m_output.contains(QStringLiteral("Summary")));
+}
+
+void tst_HeadlessRun::refusalEndsTheRun()
+{
+    QTimer::singleShot(0, this, [this] {
+        Q_EMIT m_fixture->workbench.link().refused(QStringLiteral("the token is wrong"));
+    });
+    QCOMPARE(run({{}, {}, 600'000}), 1);
+    QVERIFY(m_output.contains(QStringLiteral("refuses this client: the token is wrong")));
     QVERIFY(m_output.contains(QStringLiteral("Summary")));
 }
 

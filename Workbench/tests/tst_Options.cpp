@@ -21,6 +21,7 @@ class tst_Options : public QObject
 private Q_SLOTS:
     void everythingHasADefault();
     void readsEveryOption();
+    void readsTheServer();
     void bundledFilesGoByTheirNames();
     void pageIsAFile();
     void wrongOptionsAreRefused_data();
@@ -39,6 +40,9 @@ void tst_Options::everythingHasADefault()
     QCOMPARE(options.screenshotFile, QString());
     QVERIFY(!options.screenshotAtMs);
     QVERIFY(!options.logFile);
+    QVERIFY(options.serverUrl.isEmpty());
+    QCOMPARE(options.tokenFile, QString());
+    QCOMPARE(options.storeFile, QString());
     QCOMPARE(options.language, QStringLiteral("en"));
     QCOMPARE(options.speed, 1.0);
     QVERIFY(!options.isHeadless);
@@ -51,7 +55,8 @@ void tst_Options::readsEveryOption()
 {
     const QString arguments = QStringLiteral(
         "--headless --loop --site s.json --scenario c.json --plugin p.so --screenshot x.png "
-        "--screenshot-at 1.5 --log l.sqlite --language de --speed 2.5 --help --version");
+        "--screenshot-at 1.5 --log l.sqlite --language de --speed 2.5 "
+        "--store k.sqlite --help --version");
     const Options options = parse(arguments.split(u' '));
     QCOMPARE(options.siteFile, QStringLiteral("s.json"));
     QCOMPARE(options.scenarioFile, QStringLiteral("c.json"));
@@ -61,10 +66,24 @@ void tst_Options::readsEveryOption()
     QCOMPARE(options.logFile, std::optional(QStringLiteral("l.sqlite")));
     QCOMPARE(options.language, QStringLiteral("de"));
     QCOMPARE(options.speed, 2.5);
+    QCOMPARE(options.storeFile, QStringLiteral("k.sqlite"));
     QVERIFY(options.isHeadless);
     QVERIFY(options.isLooped);
     QVERIFY(options.wantsHelp);
     QVERIFY(options.wantsVersion);
+}
+
+void tst_Options::readsTheServer()
+{
+    const QStringList server{QStringLiteral("--server"), QStringLiteral("ws://[::1]:99")};
+    const Options options =
+        parse(server + QStringList{QStringLiteral("--token-file"), QStringLiteral("t")});
+    QCOMPARE(options.serverUrl, QUrl(QStringLiteral("ws://[::1]:99")));
+    QCOMPARE(options.tokenFile, QStringLiteral("t"));
+    QCOMPARE(options.scenarioFile, QStringLiteral(":/workbench/scenarios/watch.json"));
+    const QStringList scenario{QStringLiteral("--scenario"), QStringLiteral("default")};
+    QCOMPARE(parse(server + scenario).scenarioFile,
+             QStringLiteral(":/workbench/scenarios/default.json"));
 }
 
 void tst_Options::bundledFilesGoByTheirNames()
@@ -102,6 +121,22 @@ void tst_Options::wrongOptionsAreRefused_data()
     QTest::newRow("page that is not there")
         << QStringLiteral("--page none.qml")
         << QStringLiteral("--page: expected a QML file, found \"none.qml\".");
+    for (const char *const url : {"127.0.0.1:8765", "http://127.0.0.1:8765", "ws://"}) {
+        const QString text = QString::fromLatin1(url);
+        QTest::newRow(url) << QStringLiteral("--server=") + text
+                           << QStringLiteral("--server: expected an address such as "
+                                             "ws://127.0.0.1:8765, found \"%1\".")
+                                  .arg(text);
+    }
+    QTest::newRow("token for nobody")
+        << QStringLiteral("--token-file t")
+        << QStringLiteral("--token-file: expected --server URL as well.");
+    QTest::newRow("store of another process")
+        << QStringLiteral("--server ws://a --store k")
+        << QStringLiteral("--store: expected without --server.");
+    QTest::newRow("clock of another process")
+        << QStringLiteral("--server ws://a --speed 2")
+        << QStringLiteral("--speed: expected without --server.");
     QTest::newRow("time of the picture")
         << QStringLiteral("--screenshot x.png --screenshot-at soon")
         << QStringLiteral("--screenshot-at: expected a number greater than 0 and up to 86400, "
@@ -122,7 +157,8 @@ void tst_Options::helpNamesEveryOption()
     const QString help = optionsHelp();
     for (const char *const option :
          {"--headless", "--site", "--scenario", "--speed", "--loop", "--screenshot",
-          "--screenshot-at", "--language", "--page", "--log", "--plugin", "--help", "--version"})
+          "--screenshot-at", "--language", "--page", "--log", "--plugin", "--server",
+          "--token-file", "--store", "--help", "--version"})
         QVERIFY2(help.contains(QString::fromLatin1(option)), option);
     QVERIFY(help.contains(QStringLiteral("Exit codes")));
 }

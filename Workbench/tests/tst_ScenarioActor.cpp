@@ -1,8 +1,8 @@
 #include "ScenarioActor.h"
 
 #include "FakeMonitor.h"
+#include "LocalServerLink.h"
 #include "PluginSurface.h"
-#include "ServerLink.h"
 #include "SignalLog.h"
 #include "SiteActor.h"
 #include "TestSite.h"
@@ -38,7 +38,7 @@ private:
     std::unique_ptr<FakeMonitor> m_monitor;
     std::unique_ptr<SiteServer> m_server;
     std::unique_ptr<SiteActor> m_siteActor;
-    std::unique_ptr<ServerLink> m_link;
+    std::unique_ptr<LocalServerLink> m_link;
     std::unique_ptr<TopologyPlugin> m_topology;
     std::unique_ptr<PluginSurface> m_surface;
     std::unique_ptr<ScenarioActor> m_actor;
@@ -50,7 +50,7 @@ void tst_ScenarioActor::init()
     m_clock = std::make_unique<VirtualClock>();
     m_monitor = std::make_unique<FakeMonitor>(m_log);
     m_server = std::make_unique<SiteServer>(testSite(), *m_clock);
-    m_link = std::make_unique<ServerLink>(*m_server);
+    m_link = std::make_unique<LocalServerLink>(*m_server);
     m_topology = std::make_unique<TopologyPlugin>();
     m_surface = std::make_unique<PluginSurface>(*m_monitor);
     m_siteActor = std::make_unique<SiteActor>(*m_server);

@@ -32,7 +32,8 @@ void tst_ServerMessages::messagesComeThroughUnchanged_data()
 {
     QTest::addColumn<QString>("text");
     const auto row = [](const char *name, const QString &text) { QTest::newRow(name) << text; };
-    row("welcome", toText(ServerMessage::Welcome{testSite()}));
+    row("welcome", toText(ServerMessage::Welcome{testSite(),
+                                                 {{QStringLiteral("south"), 4, 253'402'300'799}}}));
     row("refused", toText(ServerMessage::Refused{QStringLiteral("full")}));
     row("result", toText(ServerMessage::Result{3, QStringLiteral("0"), QVariant(7)}));
     row("result without data", toText(ServerMessage::Result{0, QStringLiteral("x"), {}}));
@@ -42,6 +43,9 @@ void tst_ServerMessages::messagesComeThroughUnchanged_data()
     row("camera removed", toText(ServerMessage::CameraRemoved{QStringLiteral("a/b")}));
     row("station removed", toText(ServerMessage::StationRemoved{QStringLiteral("a")}));
     row("storage", toText(ServerMessage::StorageChanged{testSite().stations.front()}));
+    row("snoozes", toText(ServerMessage::Snoozes{
+                       {{QStringLiteral("north/c1"), 3, 100}, {QStringLiteral("south"), 4, 200}}}));
+    row("no snoozes", toText(ServerMessage::Snoozes{}));
     row("event", toText(ServerMessage::Event{QStringLiteral("E"), QStringLiteral("data"),
                                              QStringLiteral("a")}));
     row("event of the server", toText(ServerMessage::Event{QStringLiteral("E"), {}, {}}));
@@ -58,9 +62,9 @@ void tst_ServerMessages::siteComesThroughUnchanged()
     Site site = testSite();
     site.findCamera(QStringLiteral("north/annex/c1"))->connected = false;
     site.findStation(QStringLiteral("north"))->volumes.at(1).connected = false;
-    const Site read =
-        std::get<ServerMessage::Welcome>(readServerMessage(toText(ServerMessage::Welcome{site})))
-            .site;
+    const Site read = std::get<ServerMessage::Welcome>(
+                          readServerMessage(toText(ServerMessage::Welcome{site, {}})))
+                          .site;
     QCOMPARE(read.name, site.name);
     QCOMPARE(read.stationCount(), site.stationCount());
     QCOMPARE(read.cameraCount(), site.cameraCount());
@@ -93,6 +97,7 @@ void tst_ServerMessages::malformedMessagesAreRefused_data()
     row("no JSON", "welcome", "message: line 1: expected valid JSON, found: illegal value");
     row("unknown type", R"({"type":"hello"})",
         "message: type: expected one of cameraRemoved, event, nodeStatus, refused, result, "
+        "snoozes, "
         "stationRemoved, storageChanged, welcome, found \"hello\"");
     row("site without stations", R"({"type":"welcome","site":{"name":"S"}})",
         "message: site.stations: expected a list of objects, found nothing");
@@ -100,6 +105,9 @@ void tst_ServerMessages::malformedMessagesAreRefused_data()
         R"({"type":"welcome","site":{"name":"S","stations":[{"id":"a","name":"A",)"
         R"("cameras":[{"id":"a/b","name":"B"}]}]}})",
         "message: site.stations[0].cameras[0].id: expected an id without \"/\", found \"a/b\"");
+    row("snooze of another kind",
+        R"({"type":"snoozes","snoozes":[{"nodeID":"a","type":5,"timestamp":1}]})",
+        "message: snoozes[0].type: expected a whole number from 3 to 4, found the number 5");
     row("status of nothing", R"({"type":"nodeStatus","connected":true})",
         "message: station: expected a text, found nothing");
     row("status of two", R"({"type":"nodeStatus","camera":"a/b","station":"a"})",
