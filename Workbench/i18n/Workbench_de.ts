@@ -410,7 +410,7 @@
     </message>
     <message>
         <source>Show the site of this site-server instead of one in this program. The scenario is then watch unless --scenario is given, and only what clients and their users do is taken from it; its ids are checked with --site.</source>
-        <translation>Den Standort dieses site-servers zeigen statt eines Standorts in diesem Programm. Das Szenario ist dann watch, wenn --scenario nichts anderes sagt, und nur was Clients und ihre Benutzer tun, wird ihm entnommen; seine Ids werden anhand von --site geprüft.</translation>
+        <translation>Den Standort dieses site-servers zeigen statt eines Standorts in diesem Programm. Das Szenario ist dann watch, wenn --scenario nichts anderes sagt, und nur was Clients und ihre Benutzer tun, wird ihm entnommen; seine Kennungen werden anhand von --site geprüft.</translation>
     </message>
     <message>
         <source>ws://host:port</source>
