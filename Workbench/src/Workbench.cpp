@@ -77,12 +77,16 @@ void Workbench::wireServer()
             });
 }
 
+// A site in another process comes with all its states. They are announced from the event loop, when
+// everyone has heard of the connection.
 void Workbench::takeSite()
 {
     m_topology.setSite(m_link.site());
     m_host.serverConnected();
     if (!m_site)
-        m_topology.announceStatesRetrieved(true);
+        QMetaObject::invokeMethod(
+            &m_topology, [this] { m_topology.announceStatesRetrieved(true); },
+            Qt::QueuedConnection);
     if (std::exchange(m_isScenarioDue, false))
         m_driver.start();
 }

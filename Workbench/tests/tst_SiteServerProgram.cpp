@@ -184,7 +184,10 @@ void tst_SiteServerProgram::snoozeOfOneIsSeenByTheOtherAndHoldsAfterAKill()
     const QString raised = QStringLiteral("raised    Camera disconnected: Warehouse NVR - Loading "
                                           "dock 3  ")
                            + error;
-    const QString other = QStringLiteral("[3_gatehouse/truck-park]");
+    const QString other = QStringLiteral("[3_office/lobby]");
+    const TextFile outage(R"({"events": [
+        {"at": 2, "do": "cameraDown", "camera": "warehouse/dock-3"},
+        {"at": 2, "do": "cameraDown", "camera": "office/lobby"}]})");
     const QTemporaryDir directory;
     const QStringList store{QStringLiteral("--store"),
                             directory.filePath(QStringLiteral("snoozes.sqlite"))};
@@ -206,13 +209,13 @@ void tst_SiteServerProgram::snoozeOfOneIsSeenByTheOtherAndHoldsAfterAKill()
     for (Program *const workbench : {user.get(), watcher.get()})
         QVERIFY2(workbench->waitFor(QStringLiteral("connection lost")),
                  qPrintable(workbench->output()));
-    server = startServer(store, m_url.section(u'/', -1));
+    server = startServer(store + QStringList{QStringLiteral("--scenario"), outage.path()},
+                         m_url.section(u'/', -1));
     for (Program *const workbench : {user.get(), watcher.get()}) {
         QVERIFY2(workbench->waitFor(QStringLiteral("server    connected")),
                  qPrintable(workbench->output()));
         QVERIFY2(workbench->waitFor(other), qPrintable(workbench->output()));
     }
-    QTest::qWait(300);
     for (Program *const workbench : {user.get(), watcher.get()})
         QVERIFY2(!workbench->rest().contains(error), qPrintable(workbench->output()));
 }

@@ -142,7 +142,7 @@ void tst_SnoozeDurability::killedServerLosesNothingThatItConfirmed()
                                     QString::number(record.nowSeconds()),
                                     QString::number(random.generate())};
         const QString difference =
-            record.take(runAndKill(arguments, random.bounded(0, 16), random.bounded(0, 3000)));
+            record.take(runAndKill(arguments, random.bounded(0, 12), random.bounded(0, 3000)));
         QVERIFY2(difference.isEmpty(),
                  qPrintable(QStringLiteral("round %1: %2").arg(round).arg(difference)));
     }
