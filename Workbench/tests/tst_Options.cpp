@@ -3,6 +3,7 @@
 #include "InputFailure.h"
 #include "TextFile.h"
 
+#include <QFileInfo>
 #include <QTest>
 
 namespace {
@@ -166,8 +167,8 @@ void tst_Options::helpNamesEveryOption()
 void tst_Options::defaultPluginIsBesideTheProgram()
 {
     const QString file = defaultPluginFile();
-    QVERIFY(file.startsWith(QCoreApplication::applicationDirPath()));
-    QVERIFY(file.contains(QStringLiteral("/plugins/")));
+    QVERIFY(file.startsWith(QCoreApplication::applicationDirPath() + u'/'));
+    QVERIFY(QFileInfo(file).fileName().contains(QStringLiteral("PluginSystemMonitor")));
 }
 
 QTEST_GUILESS_MAIN(tst_Options)
