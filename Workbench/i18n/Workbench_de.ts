@@ -188,6 +188,14 @@
         <source>refuses this client: %1</source>
         <translation>weist diesen Client ab: %1</translation>
     </message>
+    <message>
+        <source>waited</source>
+        <translation>gewartet</translation>
+    </message>
+    <message>
+        <source>in vain until %1 is listed</source>
+        <translation>vergeblich, bis %1 gemeldet ist</translation>
+    </message>
 </context>
 <context>
     <name>DashboardWindow</name>
@@ -345,10 +353,6 @@
         <translation>Datei</translation>
     </message>
     <message>
-        <source>What happens at the site: a JSON file, or the name of a bundled one (default, everything).</source>
-        <translation>Was am Standort geschieht: eine JSON-Datei oder der Name eines mitgelieferten Szenarios (default, everything).</translation>
-    </message>
-    <message>
         <source>How many seconds of the scenario pass in a real one. Snoozes and the times printed follow; the plug-in&apos;s own delays and the samples of this machine do not.</source>
         <translation>Wie viele Sekunden des Szenarios in einer wirklichen vergehen. Zurückstellungen und ausgegebene Zeiten folgen dem; die eigenen Fristen des Plug-ins und die Messwerte dieses Rechners nicht.</translation>
     </message>
@@ -462,6 +466,18 @@ Rückgabewerte: 0 alles ging gut, 1 die Arbeit war nicht möglich, 2 eine Option
         <source>--%1: expected without --server.</source>
         <translation>--%1: erwartet: nur ohne --server.</translation>
     </message>
+    <message>
+        <source>What happens at the site: a JSON file, or the name of a bundled one (default, everything, storm).</source>
+        <translation>Was am Standort geschieht: eine JSON-Datei oder der Name eines mitgelieferten Szenarios (default, everything, storm).</translation>
+    </message>
+    <message>
+        <source>Decides which cameras a storm takes, and in which order. The same seed plays the same storm.</source>
+        <translation>Entscheidet, welche Kameras ein Sturm trifft und in welcher Reihenfolge. Dieselbe Zahl ergibt denselben Sturm.</translation>
+    </message>
+    <message>
+        <source>--seed: expected a whole number from 0 to 4294967295, found &quot;%1&quot;.</source>
+        <translation>--seed: erwartet: eine ganze Zahl von 0 bis 4294967295, gefunden: „%1“.</translation>
+    </message>
 </context>
 <context>
     <name>PluginHost</name>
@@ -552,6 +568,26 @@ Rückgabewerte: 0 alles ging gut, 1 die Arbeit war nicht möglich, 2 eine Option
     <message>
         <source>the id of a camera or station of the site</source>
         <translation>die Kennung einer Kamera oder Station des Standorts</translation>
+    </message>
+    <message>
+        <source>a station with cameras</source>
+        <translation>eine Station mit Kameras</translation>
+    </message>
+    <message>
+        <source>one without</source>
+        <translation>eine ohne</translation>
+    </message>
+    <message>
+        <source>at most %1 changes in all</source>
+        <translation>höchstens %1 Änderungen insgesamt</translation>
+    </message>
+    <message>
+        <source>nothing beside &quot;rate&quot;</source>
+        <translation>nichts neben „rate“</translation>
+    </message>
+    <message>
+        <source>a duration</source>
+        <translation>eine Dauer</translation>
     </message>
 </context>
 <context>

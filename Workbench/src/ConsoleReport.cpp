@@ -94,6 +94,9 @@ void ConsoleReport::followErrors(const Workbench &workbench)
     });
     connect(&watch, &ErrorListWatch::changed, this,
             [line](const ListedError &error) { line(tr("changed"), error); });
+    connect(&workbench.errorWait(), &ErrorWait::gaveUp, this, [this](const QString &key) {
+        writeLine(tr("waited"), tr("in vain until %1 is listed").arg(key));
+    });
 }
 
 void ConsoleReport::followServer(Workbench &workbench)

@@ -29,6 +29,7 @@ private:
     void readServer(Options &options) const;
     void expectWithoutServer(const QCommandLineOption &option) const;
     double number(const QCommandLineOption &option, double greatest) const;
+    quint32 seed() const;
 
     const QCommandLineOption m_headless{
         QStringLiteral("headless"),
@@ -41,13 +42,18 @@ private:
     const QCommandLineOption m_scenario{
         QStringLiteral("scenario"),
         tr("What happens at the site: a JSON file, or the name of a bundled one (default, "
-           "everything)."),
+           "everything, storm)."),
         tr("file"), QStringLiteral("default")};
     const QCommandLineOption m_speed{
         QStringLiteral("speed"),
         tr("How many seconds of the scenario pass in a real one. Snoozes and the times printed "
            "follow; the plug-in's own delays and the samples of this machine do not."),
         tr("number"), QStringLiteral("1")};
+    const QCommandLineOption m_seed{
+        QStringLiteral("seed"),
+        tr("Decides which cameras a storm takes, and in which order. The same seed plays the same "
+           "storm."),
+        tr("number"), QString::number(DefaultScenarioSeed)};
     const QCommandLineOption m_loop{QStringLiteral("loop"),
                                     tr("Start the scenario again whenever it has ended.")};
     const QCommandLineOption m_screenshot{
@@ -109,7 +115,7 @@ OptionParser::OptionParser()
            "Exit codes: 0 all went well, 1 the work could not be done, 2 an option or a file is "
            "wrong."));
     m_parser.addOption(m_page);
-    m_parser.addOptions({m_headless, m_site, m_scenario, m_speed, m_loop, m_screenshot,
+    m_parser.addOptions({m_headless, m_site, m_scenario, m_speed, m_seed, m_loop, m_screenshot,
                          m_screenshotAt, m_language, m_log, m_plugin, m_server, m_token, m_store,
                          m_help, m_version});
 }
@@ -137,6 +143,7 @@ Options OptionParser::parse(const QStringList &arguments)
         throw InputError(tr("--page: expected a QML file, found \"%1\".").arg(options.pageFile));
     options.language = m_parser.value(m_language);
     options.speed = number(m_speed, MaxSpeed);
+    options.seed = seed();
     options.screenshotFile = m_parser.value(m_screenshot);
     if (m_parser.isSet(m_screenshotAt) && options.screenshotFile.isEmpty())
         throw InputError(tr("--screenshot-at: expected --screenshot FILE as well."));
@@ -192,6 +199,17 @@ double OptionParser::number(const QCommandLineOption &option, double greatest) c
                              .arg(greatest)
                              .arg(text));
     return number;
+}
+
+quint32 OptionParser::seed() const
+{
+    bool isNumber = false;
+    const QString text = m_parser.value(m_seed);
+    const quint32 seed = text.toUInt(&isNumber);
+    if (!isNumber)
+        throw InputError(
+            tr("--seed: expected a whole number from 0 to 4294967295, found \"%1\".").arg(text));
+    return seed;
 }
 
 } // namespace

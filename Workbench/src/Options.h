@@ -1,6 +1,8 @@
 #ifndef OPTIONS_H
 #define OPTIONS_H
 
+#include "ScenarioFile.h"
+
 #include <QString>
 #include <QStringList>
 #include <QUrl>
@@ -22,6 +24,7 @@ struct Options
     QString storeFile; ///< of the server in this process, empty for none
     QString language;
     double speed = 1.0;
+    quint32 seed = DefaultScenarioSeed;
     bool isHeadless = false;
     bool isLooped = false;
     bool wantsHelp = false;

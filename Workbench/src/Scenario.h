@@ -106,17 +106,22 @@ struct CheckSupport
     QString stationId;
 };
 
+/// The scenario's time stands still until an error is listed.
+struct AwaitError
+{
+    QString key; ///< the error's only identity
+};
+
 } // namespace ScenarioAction
 
-using AnyScenarioAction =
-    std::variant<ScenarioAction::SetCameraConnected, ScenarioAction::SetStationConnected,
-                 ScenarioAction::RemoveCamera, ScenarioAction::RemoveStation,
-                 ScenarioAction::RetrieveStates, ScenarioAction::SetServerConnected,
-                 ScenarioAction::SetResources, ScenarioAction::SetVolumeConnected,
-                 ScenarioAction::SetRecordedDays, ScenarioAction::RenameRecordingGroup,
-                 ScenarioAction::ReportReachingLimit, ScenarioAction::Snooze,
-                 ScenarioAction::ReconnectCameras, ScenarioAction::ReconnectSubstations,
-                 ScenarioAction::FocusStation, ScenarioAction::CheckSupport>;
+using AnyScenarioAction = std::variant<
+    ScenarioAction::SetCameraConnected, ScenarioAction::SetStationConnected,
+    ScenarioAction::RemoveCamera, ScenarioAction::RemoveStation, ScenarioAction::RetrieveStates,
+    ScenarioAction::SetServerConnected, ScenarioAction::SetResources,
+    ScenarioAction::SetVolumeConnected, ScenarioAction::SetRecordedDays,
+    ScenarioAction::RenameRecordingGroup, ScenarioAction::ReportReachingLimit,
+    ScenarioAction::Snooze, ScenarioAction::ReconnectCameras, ScenarioAction::ReconnectSubstations,
+    ScenarioAction::FocusStation, ScenarioAction::CheckSupport, ScenarioAction::AwaitError>;
 
 /// Something that happens at a time, counted in milliseconds from the start of the scenario.
 struct ScenarioEvent

@@ -15,8 +15,22 @@ void ScenarioDriver::start()
 {
     m_startMs = m_clock.nowMs();
     m_next = 0;
+    m_isHeld = false;
     m_isScreenshotDue = m_scenario.screenshotAtMs.has_value();
     m_clock.callAt(m_startMs, this, [this] { advance(); });
+}
+
+void ScenarioDriver::hold()
+{
+    m_isHeld = true;
+}
+
+void ScenarioDriver::resume()
+{
+    if (!std::exchange(m_isHeld, false))
+        return;
+    m_startMs = m_clock.nowMs() - m_scenario.events[m_next - 1].atMs;
+    m_clock.callAt(m_clock.nowMs(), this, [this] { advance(); });
 }
 
 void ScenarioDriver::advance()
@@ -25,8 +39,10 @@ void ScenarioDriver::advance()
     const qint64 elapsed = m_clock.nowMs() - m_startMs;
     qint64 wakeUp = m_scenario.endMs;
 
-    while (m_next < events.size() && events[m_next].atMs <= elapsed)
+    while (!m_isHeld && m_next < events.size() && events[m_next].atMs <= elapsed)
         Q_EMIT due(events[m_next++].action);
+    if (m_isHeld)
+        return;
     if (m_next < events.size())
         wakeUp = std::min(wakeUp, events[m_next].atMs);
 

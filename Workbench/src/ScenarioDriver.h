@@ -23,6 +23,12 @@ public:
     /// Plays the scenario from its start, which is now. Not to be called again before finished().
     void start();
 
+    /// Makes the scenario's time stand still, from within due(): what comes next waits.
+    void hold();
+
+    /// Lets time go on from where hold() stopped it. Without a hold() nothing happens.
+    void resume();
+
 Q_SIGNALS:
     void due(const AnyScenarioAction &action);
     /// The dashboard is worth a picture: after the events that are due at the same time.
@@ -37,6 +43,7 @@ private:
     qint64 m_startMs = 0;
     std::size_t m_next = 0; // event
     bool m_isScreenshotDue = false;
+    bool m_isHeld = false;
 };
 
 #endif

@@ -4,9 +4,11 @@
 #include "ResourceReader.h"
 #include "ServerNames.h"
 #include "Site.h"
+#include "Storm.h"
 
 #include <QCoreApplication>
 #include <QMap>
+#include <QRandomGenerator>
 
 #include <algorithm>
 #include <cmath>
@@ -16,6 +18,8 @@ namespace {
 constexpr double MaxSeconds = 86'400;
 constexpr int MaxDays = 36'500;
 constexpr double MaxCapacityPercentage = 1000;
+constexpr double MaxChangesPerSecond = 100'000;
+constexpr double MaxChanges = 10'000'000;
 
 // Reads events one after another on a site from which it takes what they remove.
 class Reader
@@ -23,11 +27,13 @@ class Reader
     Q_DECLARE_TR_FUNCTIONS(ScenarioFile)
 
 public:
-    explicit Reader(const Site &site)
+    Reader(const Site &site, quint32 seed)
         : m_site(site)
+        , m_chance(seed)
     { }
 
-    ScenarioEvent event(JsonObject &object);
+    /// One event, or the many of a storm.
+    std::vector<ScenarioEvent> events(JsonObject &object);
     static qint64 milliseconds(JsonObject &object, const QString &key, double leastSeconds = 0);
 
 private:
@@ -53,9 +59,17 @@ private:
     AnyScenarioAction renameRecordingGroup(JsonObject &object);
     AnyScenarioAction reportReachingLimit(JsonObject &object);
     AnyScenarioAction snooze(JsonObject &object);
+    AnyScenarioAction awaitError(JsonObject &object);
     QString groupId(JsonObject &object, const QString &stationId);
 
+    Storm storm(JsonObject &object);
+    static StormChange stormChange(JsonObject &object);
+    QStringList stormCameras(JsonObject &object);
+    QStringList camerasBelow(const QString &stationId) const;
+    static void readPace(JsonObject &object, Storm &storm);
+
     Site m_site;
+    QRandomGenerator m_chance;
     double m_earliest = 0; // seconds
 };
 
@@ -83,24 +97,32 @@ const QMap<QString, Reader::ActionReader> &Reader::actionReaders()
         {QStringLiteral("reconnectSubstations"), &Reader::bare<ReconnectSubstations>},
         {QStringLiteral("focusStation"), &Reader::onStation<FocusStation>},
         {QStringLiteral("checkSupport"), &Reader::onStation<CheckSupport>},
+        {QStringLiteral("until"), &Reader::awaitError},
     };
     return readers;
 }
 
-ScenarioEvent Reader::event(JsonObject &object)
+std::vector<ScenarioEvent> Reader::events(JsonObject &object)
 {
     const QString doKey = QStringLiteral("do");
-    ScenarioEvent event;
-    event.atMs = milliseconds(object, QStringLiteral("at"), m_earliest);
-    m_earliest = static_cast<double>(event.atMs) / 1000.0;
+    const QString stormVerb = QStringLiteral("storm");
+    const qint64 atMs = milliseconds(object, QStringLiteral("at"), m_earliest);
+    m_earliest = static_cast<double>(atMs) / 1000.0;
     const QString verb = object.text(doKey);
-    const ActionReader reader = actionReaders().value(verb);
-    if (!reader)
-        failUnknown(object, doKey,
-                    tr("one of %1").arg(actionReaders().keys().join(QStringLiteral(", "))), verb);
-    event.action = (this->*reader)(object);
+    std::vector<ScenarioEvent> events;
+    if (verb == stormVerb) {
+        events = stormEvents(storm(object), atMs, m_chance);
+    } else {
+        const ActionReader reader = actionReaders().value(verb);
+        if (!reader) {
+            QStringList verbs = actionReaders().keys() << stormVerb;
+            verbs.sort();
+            failUnknown(object, doKey, tr("one of %1").arg(verbs.join(QStringLiteral(", "))), verb);
+        }
+        events.push_back({atMs, (this->*reader)(object)});
+    }
     object.expectNoMore();
-    return event;
+    return events;
 }
 
 qint64 Reader::milliseconds(JsonObject &object, const QString &key, double leastSeconds)
@@ -239,19 +261,109 @@ AnyScenarioAction Reader::snooze(JsonObject &object)
     return ScenarioAction::Snooze{id, type, milliseconds(object, QStringLiteral("seconds"), 1)};
 }
 
+AnyScenarioAction Reader::awaitError(JsonObject &object)
+{
+    return ScenarioAction::AwaitError{object.text(QStringLiteral("listed"))};
+}
+
+Storm Reader::storm(JsonObject &object)
+{
+    Storm storm;
+    storm.change = stormChange(object);
+    storm.cameraIds = stormCameras(object);
+    readPace(object, storm);
+    return storm;
+}
+
+StormChange Reader::stormChange(JsonObject &object)
+{
+    static const QMap<QString, StormChange> changes{
+        {QStringLiteral("down"), StormChange::Down},
+        {QStringLiteral("up"), StormChange::Up},
+        {QStringLiteral("flap"), StormChange::Flap},
+    };
+    const QString key = QStringLiteral("change");
+    const QString change = object.text(key);
+    if (!changes.contains(change))
+        failUnknown(object, key, tr("one of %1").arg(changes.keys().join(QStringLiteral(", "))),
+                    change);
+    return changes.value(change);
+}
+
+QStringList Reader::stormCameras(JsonObject &object)
+{
+    const QString stationKey = QStringLiteral("station");
+    const QString countKey = QStringLiteral("cameras");
+    const bool hasStation = object.has(stationKey);
+    const QStringList all = camerasBelow(hasStation ? stationId(object) : QString());
+    if (all.isEmpty())
+        object.fail(stationKey, tr("a station with cameras"), tr("one without"));
+    const int most = static_cast<int>(all.size());
+    return chooseCameras(all, object.has(countKey) ? object.wholeNumber(countKey, 1, most) : most,
+                         m_chance);
+}
+
+// An empty id means the whole site.
+QStringList Reader::camerasBelow(const QString &stationId) const
+{
+    Site below;
+    below.stations = stationId.isEmpty() ? m_site.stations
+                                         : std::vector<Station>{*m_site.findStation(stationId)};
+    QStringList ids;
+    below.forEachStation([&ids](const Station &station) {
+        for (const Camera &camera : station.cameras)
+            ids.append(camera.id);
+    });
+    return ids;
+}
+
+// Cameras that change once each need no more than one of the two figures.
+void Reader::readPace(JsonObject &object, Storm &storm)
+{
+    const QString secondsKey = QStringLiteral("seconds");
+    const QString rateKey = QStringLiteral("rate");
+    const bool isFlapping = storm.change == StormChange::Flap;
+    const bool hasRate = object.has(rateKey);
+    const double rate =
+        isFlapping || hasRate ? object.number(rateKey, 0.01, MaxChangesPerSecond) : 0;
+    storm.changeCount = static_cast<int>(storm.cameraIds.size());
+    if (isFlapping) {
+        storm.durationMs = milliseconds(object, secondsKey, 0.1);
+        const double changes = std::ceil(static_cast<double>(storm.durationMs) / 1000.0 * rate);
+        if (changes > MaxChanges)
+            object.fail(rateKey, tr("at most %1 changes in all").arg(static_cast<int>(MaxChanges)),
+                        QString::number(changes, 'f', 0));
+        storm.changeCount = static_cast<int>(changes);
+    } else if (hasRate) {
+        if (object.has(secondsKey))
+            object.fail(secondsKey, tr("nothing beside \"rate\""), tr("a duration"));
+        storm.durationMs = std::llround(storm.changeCount / rate * 1000.0);
+    } else if (object.has(secondsKey)) {
+        storm.durationMs = milliseconds(object, secondsKey);
+    }
+}
+
+bool isEarlier(const ScenarioEvent &left, const ScenarioEvent &right)
+{
+    return left.atMs < right.atMs;
+}
+
 } // namespace
 
-Scenario readScenarioFile(const QString &fileName, const Site &site)
+Scenario readScenarioFile(const QString &fileName, const Site &site, quint32 seed)
 {
     const QString screenshotKey = QStringLiteral("screenshotAt");
     const QString endKey = QStringLiteral("endAt");
     JsonObject file = JsonObject::fromFile(fileName);
     Scenario scenario;
-    Reader reader(site);
+    Reader reader(site, seed);
     for (JsonObject &entry : file.requiredObjects(QStringLiteral("events"))) {
-        scenario.events.push_back(reader.event(entry));
-        scenario.endMs = scenario.events.back().atMs;
+        const std::vector<ScenarioEvent> events = reader.events(entry);
+        scenario.events.insert(scenario.events.end(), events.begin(), events.end());
     }
+    std::stable_sort(scenario.events.begin(), scenario.events.end(), isEarlier);
+    if (!scenario.events.empty())
+        scenario.endMs = scenario.events.back().atMs;
     if (file.has(screenshotKey)) {
         scenario.screenshotAtMs = Reader::milliseconds(file, screenshotKey);
         scenario.endMs = std::max(scenario.endMs, *scenario.screenshotAtMs);

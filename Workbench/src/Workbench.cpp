@@ -24,14 +24,14 @@ Workbench::Workbench(PluginHost &host, QQmlContext *context, ServerLink &link, L
     wirePlugins(context);
     m_surface = std::make_unique<PluginSurface>(*host.plugin());
     m_errorWatch = std::make_unique<ErrorListWatch>(m_surface->errorModel());
+    m_errorWait = std::make_unique<ErrorWait>(*m_errorWatch, m_driver);
     m_actor = std::make_unique<ScenarioActor>(ScenarioActor::Stage{
         site ? &site->actor() : nullptr, m_link, m_topology, *m_surface, clock});
     wireServer();
     if (site)
         connect(m_surface.get(), &PluginSurface::clientResourceChanged, &site->thisMachine(),
                 &LocalStation::report);
-    connect(&m_driver, &ScenarioDriver::due, this,
-            [this](const AnyScenarioAction &action) { m_actor->perform(action); });
+    connect(&m_driver, &ScenarioDriver::due, this, &Workbench::perform);
 }
 
 // The plug-in holds on to the framework and the topology model, so it goes before them.
@@ -89,4 +89,12 @@ void Workbench::takeSite()
             Qt::QueuedConnection);
     if (std::exchange(m_isScenarioDue, false))
         m_driver.start();
+}
+
+void Workbench::perform(const AnyScenarioAction &action)
+{
+    if (const auto wait = std::get_if<ScenarioAction::AwaitError>(&action))
+        m_errorWait->start(wait->key);
+    else
+        m_actor->perform(action);
 }

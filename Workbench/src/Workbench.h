@@ -2,6 +2,7 @@
 #define WORKBENCH_H
 
 #include "ErrorListWatch.h"
+#include "ErrorWait.h"
 #include "Framework.h"
 #include "OperationalLogPlugin.h"
 #include "OperationalLogStore.h"
@@ -50,6 +51,7 @@ public:
     ScenarioDriver &driver() { return m_driver; }
     PluginSurface &surface() { return *m_surface; }
     const ErrorListWatch &errorWatch() const { return *m_errorWatch; }
+    const ErrorWait &errorWait() const { return *m_errorWait; }
 
 Q_SIGNALS:
     /// An event has come from the server, the plug-in is about to hear.
@@ -59,6 +61,7 @@ private:
     void wirePlugins(QQmlContext *context);
     void wireServer();
     void takeSite();
+    void perform(const AnyScenarioAction &action);
 
     PluginHost &m_host;
     ServerLink &m_link;
@@ -70,6 +73,7 @@ private:
     ScenarioDriver m_driver;
     std::unique_ptr<PluginSurface> m_surface;
     std::unique_ptr<ErrorListWatch> m_errorWatch;
+    std::unique_ptr<ErrorWait> m_errorWait;
     std::unique_ptr<ScenarioActor> m_actor;
     bool m_isScenarioDue = false; // as soon as the server is connected
 };

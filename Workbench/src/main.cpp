@@ -69,7 +69,7 @@ Site readSite(const Options &options)
 
 Scenario readScenario(const Options &options, const Site &site)
 {
-    Scenario scenario = readScenarioFile(options.scenarioFile, site);
+    Scenario scenario = readScenarioFile(options.scenarioFile, site, options.seed);
     if (options.screenshotAtMs) {
         scenario.screenshotAtMs = options.screenshotAtMs;
         scenario.endMs = std::max(scenario.endMs, *options.screenshotAtMs);

@@ -46,6 +46,7 @@ void tst_Options::everythingHasADefault()
     QCOMPARE(options.storeFile, QString());
     QCOMPARE(options.language, QStringLiteral("en"));
     QCOMPARE(options.speed, 1.0);
+    QCOMPARE(options.seed, DefaultScenarioSeed);
     QVERIFY(!options.isHeadless);
     QVERIFY(!options.isLooped);
     QVERIFY(!options.wantsHelp);
@@ -57,7 +58,7 @@ void tst_Options::readsEveryOption()
     const QString arguments = QStringLiteral(
         "--headless --loop --site s.json --scenario c.json --plugin p.so --screenshot x.png "
         "--screenshot-at 1.5 --log l.sqlite --language de --speed 2.5 "
-        "--store k.sqlite --help --version");
+        "--seed 4294967295 --store k.sqlite --help --version");
     const Options options = parse(arguments.split(u' '));
     QCOMPARE(options.siteFile, QStringLiteral("s.json"));
     QCOMPARE(options.scenarioFile, QStringLiteral("c.json"));
@@ -68,6 +69,7 @@ void tst_Options::readsEveryOption()
     QCOMPARE(options.language, QStringLiteral("de"));
     QCOMPARE(options.speed, 2.5);
     QCOMPARE(options.storeFile, QStringLiteral("k.sqlite"));
+    QCOMPARE(options.seed, 4'294'967'295U);
     QVERIFY(options.isHeadless);
     QVERIFY(options.isLooped);
     QVERIFY(options.wantsHelp);
@@ -118,6 +120,13 @@ void tst_Options::wrongOptionsAreRefused_data()
                              << QStringLiteral("--speed: expected a number greater than 0 and up "
                                                "to 1000, found \"%1\".")
                                     .arg(text);
+    }
+    for (const char *const seed : {"-1", "1.5", "4294967296", "luck"}) {
+        const QString text = QString::fromLatin1(seed);
+        QTest::newRow(seed) << QStringLiteral("--seed=") + text
+                            << QStringLiteral("--seed: expected a whole number from 0 to "
+                                              "4294967295, found \"%1\".")
+                                   .arg(text);
     }
     QTest::newRow("page that is not there")
         << QStringLiteral("--page none.qml")

@@ -31,6 +31,8 @@ private Q_SLOTS:
     void endMayBeLaterThanTheEvents();
     void overdueEventsComeInTheirOrder();
     void canBePlayedAgain();
+    void timeStandsStillWhileHeld();
+    void resumeWithoutAHoldChangesNothing();
 
 private:
     void follow(const ScenarioDriver &driver);
@@ -153,6 +155,38 @@ void tst_ScenarioDriver::canBePlayedAgain()
     QCOMPARE(m_log.take(), QStringList());
     clock.advance(1);
     QCOMPARE(m_log.take(), once);
+}
+
+// Even when the hold comes late, what follows keeps its distance.
+void tst_ScenarioDriver::timeStandsStillWhileHeld()
+{
+    VirtualClock clock;
+    ScenarioDriver driver(
+        {{focusAt(1000, "a"), focusAt(1000, "b"), focusAt(2000, "c")}, 1500, 2000}, clock);
+    follow(driver);
+    const auto holdOnce = connect(&driver, &ScenarioDriver::due, &driver, &ScenarioDriver::hold);
+    driver.start();
+    clock.advance(50'000);
+    QCOMPARE(m_log.take(), QStringList{QStringLiteral("a")});
+    disconnect(holdOnce);
+    driver.resume();
+    clock.advance(0);
+    QCOMPARE(m_log.take(), QStringList{QStringLiteral("b")});
+    clock.advance(500);
+    QCOMPARE(m_log.take(), QStringList{QStringLiteral("screenshot")});
+    clock.advance(500);
+    QCOMPARE(m_log.take(), QStringList({QStringLiteral("c"), QStringLiteral("finished")}));
+}
+
+void tst_ScenarioDriver::resumeWithoutAHoldChangesNothing()
+{
+    VirtualClock clock;
+    ScenarioDriver driver({{focusAt(1000, "a")}, {}, 1000}, clock);
+    follow(driver);
+    driver.start();
+    driver.resume();
+    clock.advance(1000);
+    QCOMPARE(m_log.take(), QStringList({QStringLiteral("a"), QStringLiteral("finished")}));
 }
 
 QTEST_GUILESS_MAIN(tst_ScenarioDriver)

@@ -24,6 +24,20 @@ template <typename Action> Action onlyAction(const QByteArray &event)
     return std::get<Action>(readScenarioFile(file.path(), testSite()).events.at(0).action);
 }
 
+QStringList stormChanges(const char *event, quint32 seed = DefaultScenarioSeed)
+{
+    const TextFile file(withEvents(event));
+    QStringList changes;
+    for (const ScenarioEvent &change : readScenarioFile(file.path(), testSite(), seed).events) {
+        const auto &action = std::get<SetCameraConnected>(change.action);
+        changes.append(QStringLiteral("%1 %2 %3")
+                           .arg(change.atMs)
+                           .arg(action.cameraId)
+                           .arg(action.connected ? QStringLiteral("up") : QStringLiteral("down")));
+    }
+    return changes;
+}
+
 } // namespace
 
 class tst_ScenarioFile : public QObject
@@ -39,6 +53,12 @@ private Q_SLOTS:
     void readsReports();
     void readsWhatTheClientAndItsUserDo();
     void snoozeTypeFollowsTheNode();
+    void readsWhatIsWaitedFor();
+    void stormTakesTheCamerasBelowAStation();
+    void stormTakesAsManyCamerasAsGiven();
+    void stormRateGivesItsDuration();
+    void stormMixesWithTheEventsAfterIt();
+    void seedDecidesOnStorms();
     void wrongEventsAreRefused_data();
     void wrongEventsAreRefused();
     void wrongTimesAreRefused_data();
@@ -178,6 +198,60 @@ void tst_ScenarioFile::snoozeTypeFollowsTheNode()
     QCOMPARE(station.durationMs, 1500);
 }
 
+void tst_ScenarioFile::readsWhatIsWaitedFor()
+{
+    QCOMPARE(onlyAction<AwaitError>(R"({"at": 1, "do": "until", "listed": "3_north/c1"})").key,
+             QStringLiteral("3_north/c1"));
+}
+
+void tst_ScenarioFile::stormTakesTheCamerasBelowAStation()
+{
+    QStringList changes =
+        stormChanges(R"({"at": 2, "do": "storm", "change": "down", "station": "north"})");
+    changes.sort();
+    QCOMPARE(changes, QStringList({QStringLiteral("2000 north/annex/c1 down"),
+                                   QStringLiteral("2000 north/c1 down"),
+                                   QStringLiteral("2000 north/c2 down")}));
+}
+
+void tst_ScenarioFile::stormTakesAsManyCamerasAsGiven()
+{
+    const char *const all = R"({"at": 2, "do": "storm", "change": "up", "seconds": 2})";
+    const char *const two = R"({"at": 2, "do": "storm", "change": "up", "cameras": 2})";
+    QCOMPARE(stormChanges(all).size(), 4);
+    QCOMPARE(stormChanges(two).size(), 2);
+}
+
+void tst_ScenarioFile::stormRateGivesItsDuration()
+{
+    const QStringList changes =
+        stormChanges(R"({"at": 2, "do": "storm", "change": "down", "rate": 4})");
+    QStringList times;
+    for (const QString &change : changes)
+        times.append(change.section(u' ', 0, 0));
+    QCOMPARE(times, QStringList({QStringLiteral("2000"), QStringLiteral("2250"),
+                                 QStringLiteral("2500"), QStringLiteral("2750")}));
+}
+
+void tst_ScenarioFile::stormMixesWithTheEventsAfterIt()
+{
+    const TextFile file(withEvents(
+        R"({"at": 0, "do": "storm", "change": "flap", "seconds": 4, "rate": 2},
+           {"at": 1, "do": "reconnectCameras"})"));
+    const Scenario scenario = readScenarioFile(file.path(), testSite());
+    QCOMPARE(scenario.events.size(), std::size_t(9));
+    QVERIFY(std::holds_alternative<ReconnectCameras>(scenario.events.at(3).action));
+    QCOMPARE(scenario.endMs, 3500);
+}
+
+void tst_ScenarioFile::seedDecidesOnStorms()
+{
+    const char *const storm =
+        R"({"at": 0, "do": "storm", "change": "flap", "seconds": 4, "rate": 10})";
+    QCOMPARE(stormChanges(storm, 3), stormChanges(storm, 3));
+    QVERIFY(stormChanges(storm, 3) != stormChanges(storm, 4));
+}
+
 void tst_ScenarioFile::wrongEventsAreRefused_data()
 {
     QTest::addColumn<QByteArray>("events");
@@ -198,8 +272,8 @@ void tst_ScenarioFile::wrongEventsAreRefused_data()
         "events[0].do: expected one of camStatusRetrieved, cameraDown, cameraRemoved, cameraUp, "
         "checkSupport, focusStation, reconnectCameras, reconnectSubstations, recordingDays, "
         "recordingGroupRenamed, resources, serverDisconnect, serverReachingLimit, "
-        "serverReconnect, snooze, stationDown, stationRemoved, stationUp, volumeBack, "
-        "volumeLost, found \"cameradown\"");
+        "serverReconnect, snooze, stationDown, stationRemoved, stationUp, storm, until, "
+        "volumeBack, volumeLost, found \"cameradown\"");
     row("unknown camera", R"({"at": 1, "do": "cameraDown", "camera": "north/c9"})",
         R"(events[0].camera: expected the id of a camera of the site, found "north/c9")");
     row("station as camera", R"({"at": 1, "do": "cameraUp", "camera": "north"})",
@@ -234,6 +308,26 @@ void tst_ScenarioFile::wrongEventsAreRefused_data()
         R"(events[1].camera: expected the id of a camera of the site, found "north/annex/c1")");
     row("unknown key", R"({"at": 1, "do": "cameraDown", "camera": "north/c1", "why": "storm"})",
         "events[0].why: expected one of the keys at, camera, do, found an unknown key");
+    row("unknown change", R"({"at": 1, "do": "storm", "change": "gone"})",
+        "events[0].change: expected one of down, flap, up, found \"gone\"");
+    row("storm of more cameras than there are",
+        R"({"at": 1, "do": "storm", "change": "down", "station": "north", "cameras": 4})",
+        "events[0].cameras: expected a whole number from 1 to 3, found the number 4");
+    row("storm where there is no camera",
+        R"({"at": 1, "do": "storm", "change": "down", "station": "this-machine"})",
+        "events[0].station: expected a station with cameras, found one without");
+    row("flapping without a rate", R"({"at": 1, "do": "storm", "change": "flap", "seconds": 4})",
+        "events[0].rate: expected a number from 0.01 to 100000, found nothing");
+    row("flapping without an end", R"({"at": 1, "do": "storm", "change": "flap", "rate": 4})",
+        "events[0].seconds: expected a number from 0.1 to 86400, found nothing");
+    row("storm too long for its rate",
+        R"({"at": 1, "do": "storm", "change": "flap", "rate": 100000, "seconds": 101})",
+        "events[0].rate: expected at most 10000000 changes in all, found 10100000");
+    row("storm with two paces",
+        R"({"at": 1, "do": "storm", "change": "up", "rate": 4, "seconds": 4})",
+        "events[0].seconds: expected nothing beside \"rate\", found a duration");
+    row("waiting for nothing", R"({"at": 1, "do": "until"})",
+        "events[0].listed: expected a text, found nothing");
     row("key of another happening", R"({"at": 1, "do": "reconnectCameras", "camera": "north/c1"})",
         "events[0].camera: expected one of the keys at, do, found an unknown key");
 }
@@ -280,6 +374,7 @@ void tst_ScenarioFile::bundledScenariosFitTheBundledSite_data()
     QTest::addColumn<QString>("name");
     QTest::newRow("default") << QStringLiteral(":/workbench/scenarios/default.json");
     QTest::newRow("everything") << QStringLiteral(":/workbench/scenarios/everything.json");
+    QTest::newRow("storm") << QStringLiteral(":/workbench/scenarios/storm.json");
 }
 
 void tst_ScenarioFile::bundledScenariosFitTheBundledSite()
