@@ -297,6 +297,10 @@
         <source>%1: %2: expected %3, found %4</source>
         <translation>%1: %2: erwartet: %3, gefunden: %4</translation>
     </message>
+    <message>
+        <source>%1: %2: expected the key once, found it twice</source>
+        <translation>%1: %2: erwartet: den Schlüssel einmal, gefunden: zweimal</translation>
+    </message>
 </context>
 <context>
     <name>LocalStation</name>

@@ -1,6 +1,7 @@
 #include "JsonObject.h"
 
 #include "InputError.h"
+#include "JsonKeys.h"
 
 #include <QFile>
 #include <QJsonArray>
@@ -69,6 +70,8 @@ JsonObject JsonObject::fromText(const QString &name, const QByteArray &text)
                 .arg(name, QString::number(lineOf(text, error.offset)), error.errorString()));
     if (!document.isObject())
         throw InputError(tr("%1: line 1: expected an object, found a list").arg(name));
+    if (const QString place = repeatedKey(text); !place.isEmpty())
+        throw InputError(tr("%1: %2: expected the key once, found it twice").arg(name, place));
     return {name, {}, document.object()};
 }
 

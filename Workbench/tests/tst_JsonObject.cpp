@@ -37,6 +37,7 @@ private Q_SLOTS:
     void numbersAreBounded_data();
     void numbersAreBounded();
     void wrongEntryOfAListIsNamed();
+    void keyThatIsWrittenTwiceIsNamed();
     void unknownKeyNamesTheKnownOnes();
     void keysThatWereOnlyLookedForAreKnown();
 };
@@ -200,6 +201,12 @@ void tst_JsonObject::wrongEntryOfAListIsNamed()
     QCOMPARE(
         failureOf("{}", [](JsonObject &object) { object.requiredObjects(QStringLiteral("k")); }),
         QStringLiteral("FILE: k: expected a list of objects, found nothing"));
+}
+
+void tst_JsonObject::keyThatIsWrittenTwiceIsNamed()
+{
+    QCOMPARE(failureOf(R"({"list": [{"a": 1, "b": 2, "a": 1}]})", [](JsonObject &) {}),
+             QStringLiteral("FILE: list[0].a: expected the key once, found it twice"));
 }
 
 void tst_JsonObject::unknownKeyNamesTheKnownOnes()

@@ -166,7 +166,7 @@ void tst_Options::helpNamesEveryOption()
 {
     const QString help = optionsHelp();
     for (const char *const option :
-         {"--headless", "--site", "--scenario", "--speed", "--loop", "--screenshot",
+         {"--headless", "--site", "--scenario", "--speed", "--seed", "--loop", "--screenshot",
           "--screenshot-at", "--language", "--page", "--log", "--plugin", "--server",
           "--token-file", "--store", "--help", "--version"})
         QVERIFY2(help.contains(QString::fromLatin1(option)), option);
