@@ -224,6 +224,55 @@
     </message>
 </context>
 <context>
+    <name>JournalPlayer</name>
+    <message>
+        <source>The plug-in failed to initialise.</source>
+        <translation>Das Plug-in ließ sich nicht initialisieren.</translation>
+    </message>
+    <message>
+        <source>The plug-in has no error list.</source>
+        <translation>Das Plug-in hat keine Fehlerliste.</translation>
+    </message>
+    <message>
+        <source>%1: line %2: expected a call that the plug-in has, found &quot;%3&quot; with %4 arguments</source>
+        <translation>%1: Zeile %2: erwartet: ein Aufruf, den das Plug-in hat, gefunden: „%3“ mit %4 Argumenten</translation>
+    </message>
+</context>
+<context>
+    <name>JournalReader</name>
+    <message>
+        <source>%1: cannot be read: %2</source>
+        <translation>%1: kann nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>%1: line %2: expected %3</source>
+        <translation>%1: Zeile %2: erwartet: %3</translation>
+    </message>
+    <message>
+        <source>the header of a journal that --record has written</source>
+        <translation>der Kopf eines Journals, das --record geschrieben hat</translation>
+    </message>
+    <message>
+        <source>version %1 of the journal</source>
+        <translation>Version %1 des Journals</translation>
+    </message>
+    <message>
+        <source>an entry of a journal</source>
+        <translation>ein Eintrag eines Journals</translation>
+    </message>
+</context>
+<context>
+    <name>JournalWriter</name>
+    <message>
+        <source>%1: expected a new file, found one that is there</source>
+        <translation>%1: erwartet: eine neue Datei, gefunden: eine vorhandene</translation>
+    </message>
+    <message>
+        <source>%1: cannot be written: %2</source>
+        <translation>%1: kann nicht geschrieben werden: %2</translation>
+    </message>
+</context>
+<context>
     <name>JsonObject</name>
     <message>
         <source>nothing</source>
@@ -310,13 +359,6 @@
     </message>
 </context>
 <context>
-    <name>OperationalLogReader</name>
-    <message>
-        <source>Error snoozed</source>
-        <translation>Fehler zurückgestellt</translation>
-    </message>
-</context>
-<context>
     <name>Message</name>
     <message>
         <source>version %1</source>
@@ -333,6 +375,13 @@
     <message>
         <source>&quot;%1&quot;</source>
         <translation>„%1“</translation>
+    </message>
+</context>
+<context>
+    <name>OperationalLogReader</name>
+    <message>
+        <source>Error snoozed</source>
+        <translation>Fehler zurückgestellt</translation>
     </message>
 </context>
 <context>
@@ -482,6 +531,18 @@ Rückgabewerte: 0 alles ging gut, 1 die Arbeit war nicht möglich, 2 eine Option
         <source>--seed: expected a whole number from 0 to 4294967295, found &quot;%1&quot;.</source>
         <translation>--seed: erwartet: eine ganze Zahl von 0 bis 4294967295, gefunden: „%1“.</translation>
     </message>
+    <message>
+        <source>Write everything that the plug-in is given to this new file, to be replayed.</source>
+        <translation>Alles, was das Plug-in bekommt, in diese neue Datei schreiben, um es wiederzugeben.</translation>
+    </message>
+    <message>
+        <source>Give the plug-in what such a file tells, instead of a site and a scenario. --speed max does so as fast as possible. The error list is printed in the end, and compared with the recorded one.</source>
+        <translation>Dem Plug-in geben, was eine solche Datei erzählt, statt eines Standorts und eines Szenarios. --speed max tut das so schnell wie möglich. Die Fehlerliste wird am Ende ausgegeben und mit der aufgezeichneten verglichen.</translation>
+    </message>
+    <message>
+        <source>--%1: expected without --replay.</source>
+        <translation>--%1: erwartet: nur ohne --replay.</translation>
+    </message>
 </context>
 <context>
     <name>PluginHost</name>
@@ -537,6 +598,25 @@ Rückgabewerte: 0 alles ging gut, 1 die Arbeit war nicht möglich, 2 eine Option
     <message>
         <source>expected a welcome first</source>
         <translation>erwartet: zuerst ein Willkommen</translation>
+    </message>
+</context>
+<context>
+    <name>ReplayRun</name>
+    <message>
+        <source>%1: line %2: expected a change that fits the topology</source>
+        <translation>%1: Zeile %2: erwartet: eine Änderung, die zur Topologie passt</translation>
+    </message>
+    <message>
+        <source>The journal was cut off; its %1 whole entries were replayed.</source>
+        <translation>Das Journal ist abgeschnitten; seine %1 ganzen Einträge wurden wiedergegeben.</translation>
+    </message>
+    <message>
+        <source>%1 entries were replayed; the list is the recorded one.</source>
+        <translation>%1 Einträge wurden wiedergegeben; die Liste ist die aufgezeichnete.</translation>
+    </message>
+    <message>
+        <source>%1 entries were replayed; the list differs from the recorded one:</source>
+        <translation>%1 Einträge wurden wiedergegeben; die Liste weicht von der aufgezeichneten ab:</translation>
     </message>
 </context>
 <context>
@@ -732,6 +812,10 @@ Rückgabewerte: 1 die Arbeit war nicht möglich, 2 eine Option oder eine Datei i
     <message>
         <source>--loop: expected a window.</source>
         <translation>--loop: erwartet: ein Fenster.</translation>
+    </message>
+    <message>
+        <source>%1: expected a journal of plug-in %2, found one of %3</source>
+        <translation>%1: erwartet: ein Journal des Plug-ins %2, gefunden: eines von %3</translation>
     </message>
 </context>
 <context>

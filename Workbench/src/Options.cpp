@@ -27,6 +27,7 @@ public:
 
 private:
     void readServer(Options &options) const;
+    void readReplay(Options &options) const;
     void expectWithoutServer(const QCommandLineOption &option) const;
     double number(const QCommandLineOption &option, double greatest) const;
     quint32 seed() const;
@@ -94,6 +95,16 @@ private:
         tr("Keep the snoozes of the site in this SQLite file, for the next time. Without it they "
            "end with the program."),
         tr("file")};
+    const QCommandLineOption m_record{
+        QStringLiteral("record"),
+        tr("Write everything that the plug-in is given to this new file, to be replayed."),
+        tr("file")};
+    const QCommandLineOption m_replay{
+        QStringLiteral("replay"),
+        tr("Give the plug-in what such a file tells, instead of a site and a scenario. --speed max "
+           "does so as fast as possible. The error list is printed in the end, and "
+           "compared with the recorded one."),
+        tr("file")};
     const QCommandLineOption m_help{{QStringLiteral("h"), QStringLiteral("help")},
                                     tr("Print this help.")};
     const QCommandLineOption m_version{{QStringLiteral("v"), QStringLiteral("version")},
@@ -117,7 +128,7 @@ OptionParser::OptionParser()
     m_parser.addOption(m_page);
     m_parser.addOptions({m_headless, m_site, m_scenario, m_speed, m_seed, m_loop, m_screenshot,
                          m_screenshotAt, m_language, m_log, m_plugin, m_server, m_token, m_store,
-                         m_help, m_version});
+                         m_record, m_replay, m_help, m_version});
 }
 
 Options OptionParser::parse(const QStringList &arguments)
@@ -142,7 +153,9 @@ Options OptionParser::parse(const QStringList &arguments)
     if (m_parser.isSet(m_page) && !QFileInfo(options.pageFile).isFile())
         throw InputError(tr("--page: expected a QML file, found \"%1\".").arg(options.pageFile));
     options.language = m_parser.value(m_language);
-    options.speed = number(m_speed, MaxSpeed);
+    readReplay(options);
+    if (!options.isFast)
+        options.speed = number(m_speed, MaxSpeed);
     options.seed = seed();
     options.screenshotFile = m_parser.value(m_screenshot);
     if (m_parser.isSet(m_screenshotAt) && options.screenshotFile.isEmpty())
@@ -154,6 +167,21 @@ Options OptionParser::parse(const QStringList &arguments)
     options.storeFile = m_parser.value(m_store);
     readServer(options);
     return options;
+}
+
+void OptionParser::readReplay(Options &options) const
+{
+    options.recordFile = m_parser.value(m_record);
+    options.replayFile = m_parser.value(m_replay);
+    if (options.replayFile.isEmpty())
+        return;
+    options.isFast = m_parser.value(m_speed) == QStringLiteral("max");
+    for (const QCommandLineOption &other :
+         {m_record, m_site, m_scenario, m_seed, m_loop, m_screenshot, m_server, m_store, m_log}) {
+        if (m_parser.isSet(other))
+            throw InputError(
+                tr("--%1: expected without --replay.").arg(other.names().constFirst()));
+    }
 }
 
 void OptionParser::readServer(Options &options) const

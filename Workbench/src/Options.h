@@ -16,6 +16,8 @@ struct Options
     QString scenarioFile;                 ///< a file, or a resource
     QString pluginFile;                   ///< empty for defaultPluginFile()
     QString pageFile;                     ///< empty for the dashboard
+    QString recordFile;                   ///< a new journal; empty for none
+    QString replayFile;                   ///< a journal to play instead of a scenario, or empty
     QString screenshotFile;               ///< empty for none
     std::optional<qint64> screenshotAtMs; ///< of the scenario; the scenario decides without it
     std::optional<QString> logFile;
@@ -25,6 +27,7 @@ struct Options
     QString language;
     double speed = 1.0;
     quint32 seed = DefaultScenarioSeed;
+    bool isFast = false; ///< replays as fast as possible, whatever the speed
     bool isHeadless = false;
     bool isLooped = false;
     bool wantsHelp = false;

@@ -51,13 +51,13 @@ PluginHost::~PluginHost()
 
 PluginBase *PluginHost::plugin() const
 {
-    return qobject_cast<PluginBase *>(m_object);
+    return m_object && m_front ? m_front : qobject_cast<PluginBase *>(m_object);
 }
 
 void PluginHost::initialise(QQmlContext *context, Framework &framework)
 {
     m_framework = &framework;
-    framework.registerPlugin(m_pluginId, m_object);
+    framework.registerPlugin(m_pluginId, plugin());
     if (!plugin()->InitialPluginBase(context, framework.handle(), &framework))
         throw HostError(tr("%1: the plug-in failed to initialise").arg(m_fileName));
 }

@@ -26,8 +26,12 @@ public:
     PluginHost(const PluginHost &) = delete;
     PluginHost &operator=(const PluginHost &) = delete;
 
-    /// The plug-in's object; null after destroy().
+    /// The plug-in's object, or what stands before it; null after destroy().
     PluginBase *plugin() const;
+
+    /// Puts an object before the plug-in, to which everything goes that is meant for the plug-in.
+    /// To be called before initialise(); the object must outlive the host's use of the plug-in.
+    void setFront(PluginBase &front) { m_front = &front; }
 
     /// The id that the plug-in's metadata give.
     const QString &pluginId() const { return m_pluginId; }
@@ -52,6 +56,7 @@ private:
     QString m_fileName;
     QString m_pluginId;
     QPointer<QObject> m_object; // the plug-in
+    PluginBase *m_front = nullptr;
     QPointer<Framework> m_framework;
 };
 

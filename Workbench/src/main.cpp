@@ -8,17 +8,23 @@
 #include "HeadlessRun.h"
 #include "HostError.h"
 #include "InputError.h"
+#include "JournalPlayer.h"
+#include "JournalReader.h"
+#include "JournalWriter.h"
 #include "LocalSite.h"
 #include "OperationalLogReader.h"
 #include "Options.h"
 #include "PluginHost.h"
+#include "PluginRecorder.h"
 #include "Preferences.h"
 #include "RemoteServerLink.h"
+#include "ReplayRun.h"
 #include "ScaledClock.h"
 #include "ScenarioFile.h"
 #include "Screenshot.h"
 #include "SiteFile.h"
 #include "SnoozeStore.h"
+#include "Thresholds.h"
 #include "WindowRun.h"
 #include "Workbench.h"
 
@@ -114,6 +120,35 @@ std::unique_ptr<ServerLink> openRemoteLink(const Options &options, Clock &clock)
     return std::make_unique<RemoteServerLink>(options.serverUrl, token, clock);
 }
 
+// Journals what the plug-in is given, where the user wants that.
+class Recording
+{
+public:
+    Recording(const Options &options, PluginHost &host, const Clock &clock)
+    {
+        if (options.recordFile.isEmpty())
+            return;
+        m_journal = std::make_unique<JournalWriter>(options.recordFile, host.pluginId(), clock);
+        m_recorder = std::make_unique<PluginRecorder>(*host.plugin(), *m_journal);
+        host.setFront(*m_recorder);
+    }
+
+    // The exit code of a run that has just ended with another one.
+    int finish(int code)
+    {
+        if (!m_recorder)
+            return code;
+        m_recorder->finish();
+        if (!m_journal->failure().isEmpty())
+            throw HostError(m_journal->failure());
+        return code;
+    }
+
+private:
+    std::unique_ptr<JournalWriter> m_journal;
+    std::unique_ptr<PluginRecorder> m_recorder;
+};
+
 int playHeadless(Workbench &workbench, const Clock &clock, Screenshot *screenshot)
 {
     QTextStream out(stdout);
@@ -133,6 +168,7 @@ int play(const Options &options, Catalogues &catalogues)
     PluginHost host(options.pluginFile.isEmpty() ? defaultPluginFile() : options.pluginFile);
     catalogues.installNew();
     ScaledClock clock(options.speed);
+    Recording recording(options, host, clock);
     OperationalLogStore log(logFile(options));
     const bool wantsPicture = !options.screenshotFile.isEmpty();
     std::unique_ptr<QQmlEngine> engine;
@@ -144,7 +180,7 @@ int play(const Options &options, Catalogues &catalogues)
     Workbench workbench(host, engine ? engine->rootContext() : nullptr,
                         remote ? *remote : local->link(), local.get(), scenario, log, clock);
     if (!engine)
-        return playHeadless(workbench, clock, nullptr);
+        return recording.finish(playHeadless(workbench, clock, nullptr));
 
     FileExport files(FileExport::usualFolder());
     OperationalLogReader logReader(log, workbench.logPlugin());
@@ -160,9 +196,37 @@ int play(const Options &options, Catalogues &catalogues)
     Screenshot picture(window, options.screenshotFile);
     Screenshot *const screenshot = wantsPicture ? &picture : nullptr;
     if (!isHeadless)
-        return WindowRun(workbench, window, screenshot, options.isLooped).exec();
+        return recording.finish(WindowRun(workbench, window, screenshot, options.isLooped).exec());
     window.show();
-    return playHeadless(workbench, clock, screenshot);
+    return recording.finish(playHeadless(workbench, clock, screenshot));
+}
+
+int replay(const Options &options, Catalogues &catalogues)
+{
+    const Journal journal = readJournal(options.replayFile);
+    PluginHost host(options.pluginFile.isEmpty() ? defaultPluginFile() : options.pluginFile);
+    if (journal.pluginId != host.pluginId())
+        throw InputError(QCoreApplication::translate(
+                             "main", "%1: expected a journal of plug-in %2, found one of %3")
+                             .arg(journal.fileName, host.pluginId(), journal.pluginId));
+    catalogues.installNew();
+    setThresholdsOfEnvironment(journal.thresholds);
+    ScaledClock clock(options.speed);
+    const std::unique_ptr<QQmlEngine> engine =
+        runsHeadless(options) ? nullptr : std::make_unique<QQmlEngine>();
+    JournalPlayer player(*host.plugin(), engine ? engine->rootContext() : nullptr, journal,
+                         options.isFast ? nullptr : &clock);
+    std::unique_ptr<DashboardWindow> window;
+    if (engine) {
+        window = std::make_unique<DashboardWindow>(*engine, *host.plugin(), journal.fileName,
+                                                   pageUrl(options));
+        window->show();
+    }
+    QTextStream out(stdout);
+    const int code = ReplayRun(player, journal, out, window != nullptr).exec();
+    window.reset();
+    host.destroy();
+    return code;
 }
 
 int run(int argc, char **argv)
@@ -176,7 +240,8 @@ int run(int argc, char **argv)
     else if (options.wantsVersion)
         QTextStream(stdout) << "workbench " WORKBENCH_VERSION "\n";
     else
-        return play(options, catalogues);
+        return options.replayFile.isEmpty() ? play(options, catalogues)
+                                            : replay(options, catalogues);
     return EXIT_SUCCESS;
 }
 

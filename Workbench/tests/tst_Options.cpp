@@ -23,6 +23,7 @@ private Q_SLOTS:
     void everythingHasADefault();
     void readsEveryOption();
     void readsTheServer();
+    void journalsAreRecordedAndReplayed();
     void bundledFilesGoByTheirNames();
     void pageIsAFile();
     void wrongOptionsAreRefused_data();
@@ -89,6 +90,17 @@ void tst_Options::readsTheServer()
              QStringLiteral(":/workbench/scenarios/default.json"));
 }
 
+void tst_Options::journalsAreRecordedAndReplayed()
+{
+    QCOMPARE(parse({QStringLiteral("--record"), QStringLiteral("j")}).recordFile,
+             QStringLiteral("j"));
+    const QStringList replay{QStringLiteral("--replay"), QStringLiteral("j")};
+    QCOMPARE(parse(replay).replayFile, QStringLiteral("j"));
+    QVERIFY(!parse(replay).isFast);
+    QCOMPARE(parse(replay + QStringList{QStringLiteral("--speed=7")}).speed, 7.0);
+    QVERIFY(parse(replay + QStringList{QStringLiteral("--speed=max")}).isFast);
+}
+
 void tst_Options::bundledFilesGoByTheirNames()
 {
     QCOMPARE(parse({QStringLiteral("--scenario"), QStringLiteral("everything")}).scenarioFile,
@@ -114,7 +126,7 @@ void tst_Options::wrongOptionsAreRefused_data()
     QTest::newRow("stray argument")
         << QStringLiteral("site.json")
         << QStringLiteral("Expected options only, found \"site.json\".");
-    for (const char *const speed : {"fast", "0", "-1", "1001", "nan", "inf", "1,5"}) {
+    for (const char *const speed : {"fast", "0", "-1", "1001", "nan", "inf", "1,5", "max"}) {
         const QString text = QString::fromLatin1(speed);
         QTest::newRow(speed) << QStringLiteral("--speed=") + text
                              << QStringLiteral("--speed: expected a number greater than 0 and up "
@@ -127,6 +139,12 @@ void tst_Options::wrongOptionsAreRefused_data()
                             << QStringLiteral("--seed: expected a whole number from 0 to "
                                               "4294967295, found \"%1\".")
                                    .arg(text);
+    }
+    for (const char *const option : {"record", "site", "scenario", "seed", "server", "store"}) {
+        const QString name = QString::fromLatin1(option);
+        QTest::addRow("replay and %s", option)
+            << QStringLiteral("--replay j --%1 1").arg(name)
+            << QStringLiteral("--%1: expected without --replay.").arg(name);
     }
     QTest::newRow("page that is not there")
         << QStringLiteral("--page none.qml")
@@ -168,7 +186,7 @@ void tst_Options::helpNamesEveryOption()
     for (const char *const option :
          {"--headless", "--site", "--scenario", "--speed", "--seed", "--loop", "--screenshot",
           "--screenshot-at", "--language", "--page", "--log", "--plugin", "--server",
-          "--token-file", "--store", "--help", "--version"})
+          "--token-file", "--store", "--record", "--replay", "--help", "--version"})
         QVERIFY2(help.contains(QString::fromLatin1(option)), option);
     QVERIFY(help.contains(QStringLiteral("Exit codes")));
 }

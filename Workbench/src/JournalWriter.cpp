@@ -1,0 +1,41 @@
+#include "JournalWriter.h"
+
+#include "Clock.h"
+#include "InputError.h"
+#include "JournalKeys.h"
+#include "Thresholds.h"
+
+#include <QDateTime>
+#include <QJsonDocument>
+
+JournalWriter::JournalWriter(const QString &fileName, const QString &pluginId, const Clock &clock)
+    : m_file(fileName)
+    , m_clock(clock)
+    , m_startMs(clock.nowMs())
+{
+    if (m_file.exists())
+        throw InputError(tr("%1: expected a new file, found one that is there").arg(fileName));
+    if (!m_file.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered))
+        throw InputError(tr("%1: cannot be written: %2").arg(fileName, m_file.errorString()));
+    writeLine({{JournalKeys::Journal, JournalKeys::Kind},
+               {JournalKeys::Version, JournalKeys::CurrentVersion},
+               {JournalKeys::Plugin, pluginId},
+               {JournalKeys::Workbench, QCoreApplication::applicationVersion()},
+               {JournalKeys::Recorded, QDateTime::currentDateTime().toString(Qt::ISODate)},
+               {JournalKeys::Environment, thresholdsOfEnvironment()}});
+}
+
+void JournalWriter::write(QJsonObject entry)
+{
+    entry.insert(JournalKeys::At, m_clock.nowMs() - m_startMs);
+    writeLine(entry);
+}
+
+void JournalWriter::writeLine(const QJsonObject &object)
+{
+    if (!m_failure.isEmpty())
+        return;
+    const QByteArray line = QJsonDocument(object).toJson(QJsonDocument::Compact) + '\n';
+    if (m_file.write(line) != line.size())
+        m_failure = tr("%1: cannot be written: %2").arg(m_file.fileName(), m_file.errorString());
+}
