@@ -10,13 +10,12 @@
 #include "InputError.h"
 #include "JournalPlayer.h"
 #include "JournalReader.h"
-#include "JournalWriter.h"
 #include "LocalSite.h"
 #include "OperationalLogReader.h"
 #include "Options.h"
 #include "PluginHost.h"
-#include "PluginRecorder.h"
 #include "Preferences.h"
+#include "Recording.h"
 #include "RemoteServerLink.h"
 #include "ReplayRun.h"
 #include "ScaledClock.h"
@@ -120,34 +119,22 @@ std::unique_ptr<ServerLink> openRemoteLink(const Options &options, Clock &clock)
     return std::make_unique<RemoteServerLink>(options.serverUrl, token, clock);
 }
 
-// Journals what the plug-in is given, where the user wants that.
-class Recording
+// Null when the user wants no journal.
+std::unique_ptr<Recording> openRecording(const Options &options, PluginHost &host,
+                                         const Clock &clock)
 {
-public:
-    Recording(const Options &options, PluginHost &host, const Clock &clock)
-    {
-        if (options.recordFile.isEmpty())
-            return;
-        m_journal = std::make_unique<JournalWriter>(options.recordFile, host.pluginId(), clock);
-        m_recorder = std::make_unique<PluginRecorder>(*host.plugin(), *m_journal);
-        host.setFront(*m_recorder);
-    }
+    return options.recordFile.isEmpty()
+               ? nullptr
+               : std::make_unique<Recording>(options.recordFile, host, clock);
+}
 
-    // The exit code of a run that has just ended with another one.
-    int finish(int code)
-    {
-        if (!m_recorder)
-            return code;
-        m_recorder->finish();
-        if (!m_journal->failure().isEmpty())
-            throw HostError(m_journal->failure());
-        return code;
-    }
-
-private:
-    std::unique_ptr<JournalWriter> m_journal;
-    std::unique_ptr<PluginRecorder> m_recorder;
-};
+// Passes on the exit code of the run that has ended.
+int finished(Recording *recording, int exitCode)
+{
+    if (recording)
+        recording->finish();
+    return exitCode;
+}
 
 int playHeadless(Workbench &workbench, const Clock &clock, Screenshot *screenshot)
 {
@@ -168,7 +155,7 @@ int play(const Options &options, Catalogues &catalogues)
     PluginHost host(options.pluginFile.isEmpty() ? defaultPluginFile() : options.pluginFile);
     catalogues.installNew();
     ScaledClock clock(options.speed);
-    Recording recording(options, host, clock);
+    const std::unique_ptr<Recording> recording = openRecording(options, host, clock);
     OperationalLogStore log(logFile(options));
     const bool wantsPicture = !options.screenshotFile.isEmpty();
     std::unique_ptr<QQmlEngine> engine;
@@ -180,7 +167,7 @@ int play(const Options &options, Catalogues &catalogues)
     Workbench workbench(host, engine ? engine->rootContext() : nullptr,
                         remote ? *remote : local->link(), local.get(), scenario, log, clock);
     if (!engine)
-        return recording.finish(playHeadless(workbench, clock, nullptr));
+        return finished(recording.get(), playHeadless(workbench, clock, nullptr));
 
     FileExport files(FileExport::usualFolder());
     OperationalLogReader logReader(log, workbench.logPlugin());
@@ -196,9 +183,10 @@ int play(const Options &options, Catalogues &catalogues)
     Screenshot picture(window, options.screenshotFile);
     Screenshot *const screenshot = wantsPicture ? &picture : nullptr;
     if (!isHeadless)
-        return recording.finish(WindowRun(workbench, window, screenshot, options.isLooped).exec());
+        return finished(recording.get(),
+                        WindowRun(workbench, window, screenshot, options.isLooped).exec());
     window.show();
-    return recording.finish(playHeadless(workbench, clock, screenshot));
+    return finished(recording.get(), playHeadless(workbench, clock, screenshot));
 }
 
 int replay(const Options &options, Catalogues &catalogues)
