@@ -340,28 +340,32 @@
         <translation>--%1: erwartet: eine Zahl größer als 0 und bis %2, gefunden: „%3“.</translation>
     </message>
     <message>
-        <source>Runs the system-monitor plug-in in a stand-in for its host: with a site of recording stations and cameras, a scenario of what happens there, and this machine&apos;s own load.
-
-  workbench                                       show the dashboard
-  workbench --headless --scenario everything      print what happens
-  workbench --headless --screenshot picture.png   save a picture as well
-
-Exit codes: 0 all went well, 1 the work could not be done, 2 an option or a file is wrong.</source>
-        <translation>Führt das Plug-in zur Systemüberwachung in einem Ersatz für sein Wirtsprogramm aus: mit einem Standort aus Aufzeichnungsstationen und Kameras, einem Szenario der Ereignisse und der Auslastung dieses Rechners.
-
-  workbench                                       die Übersicht zeigen
-  workbench --headless --scenario everything      ausgeben, was geschieht
-  workbench --headless --screenshot picture.png   auch ein Bild speichern
-
-Rückgabewerte: 0 alles ging gut, 1 die Arbeit war nicht möglich, 2 eine Option oder eine Datei ist falsch.</translation>
-    </message>
-    <message>
         <source>Show this QML file instead of the dashboard, with the same properties.</source>
         <translation>Diese QML-Datei statt der Übersicht zeigen, mit denselben Eigenschaften.</translation>
     </message>
     <message>
         <source>--page: expected a QML file, found &quot;%1&quot;.</source>
         <translation>--page: erwartet: eine QML-Datei, gefunden: „%1“.</translation>
+    </message>
+    <message>
+        <source>Without a window: end with exit code 0 although errors are listed in the end.</source>
+        <translation>Ohne Fenster: mit dem Rückgabewert 0 enden, auch wenn am Ende Fehler in der Liste stehen.</translation>
+    </message>
+    <message>
+        <source>Runs the system-monitor plug-in in a stand-in for its host: with a site of recording stations and cameras, a scenario of what happens there, and this machine&apos;s own load.
+
+  workbench                                       show the dashboard
+  workbench --headless --scenario everything      print what happens
+  workbench --headless --screenshot picture.png   save a picture as well
+
+Exit codes: 0 all went well, 1 errors are listed at the end of a run without a window, 2 an option or a file is wrong, 3 the work could not be done.</source>
+        <translation>Führt das Plug-in zur Systemüberwachung in einem Ersatz für sein Wirtsprogramm aus: mit einem Standort aus Aufzeichnungsstationen und Kameras, einem Szenario der Ereignisse und der Auslastung dieses Rechners.
+
+  workbench                                       die Übersicht zeigen
+  workbench --headless --scenario everything      ausgeben, was geschieht
+  workbench --headless --screenshot picture.png   auch ein Bild speichern
+
+Rückgabewerte: 0 alles ging gut, 1 am Ende eines Laufs ohne Fenster stehen Fehler in der Liste, 2 eine Option oder eine Datei ist falsch, 3 die Arbeit war nicht möglich.</translation>
     </message>
 </context>
 <context>

@@ -6,8 +6,6 @@
 
 #include <QCoreApplication>
 
-#include <cstdlib>
-
 HeadlessRun::HeadlessRun(Workbench &workbench, ConsoleReport &report, Screenshot *screenshot)
     : m_workbench(workbench)
     , m_report(report)
@@ -36,7 +34,7 @@ void HeadlessRun::takeScreenshot()
         m_report.writeLine(tr("picture"), tr("saved as %1").arg(m_screenshot->fileName()));
     } else {
         m_report.writeLine(tr("picture"), tr("%1 cannot be written").arg(m_screenshot->fileName()));
-        m_exitCode = EXIT_FAILURE;
+        m_exitCode = ExitCode::Failure;
     }
 }
 
@@ -44,5 +42,7 @@ void HeadlessRun::end()
 {
     takeScreenshot();
     m_report.writeSummary();
+    if (m_exitCode == ExitCode::Success && !m_workbench.errorWatch().listed().isEmpty())
+        m_exitCode = ExitCode::ErrorsRemain;
     QCoreApplication::exit(m_exitCode);
 }

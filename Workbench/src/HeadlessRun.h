@@ -1,6 +1,7 @@
 #ifndef HEADLESSRUN_H
 #define HEADLESSRUN_H
 
+#include "ExitCode.h"
 #include "QuietPeriod.h"
 
 #include <QObject>
@@ -20,7 +21,8 @@ public:
     /// @param screenshot to be taken on the way or in the end, or null
     HeadlessRun(Workbench &workbench, ConsoleReport &report, Screenshot *screenshot);
 
-    /// Runs the application. Returns its exit code: 0, or 1 when the picture could not be written.
+    /// Runs the application. Returns its exit code: ErrorsRemain when the error list is not empty in
+    /// the end, Failure when the picture could not be written, which weighs more.
     int exec();
 
 private:
@@ -31,7 +33,7 @@ private:
     ConsoleReport &m_report;
     Screenshot *m_screenshot;
     QuietPeriod m_quiet;
-    int m_exitCode = 0;
+    int m_exitCode = ExitCode::Success;
 };
 
 #endif

@@ -46,6 +46,9 @@ private:
         tr("How many seconds of the scenario pass in a real one. Snoozes and the times printed "
            "follow; the plug-in's own delays and the samples of this machine do not."),
         tr("number"), QStringLiteral("1")};
+    const QCommandLineOption m_ignoreErrors{
+        QStringLiteral("ignore-errors"),
+        tr("Without a window: end with exit code 0 although errors are listed in the end.")};
     const QCommandLineOption m_loop{QStringLiteral("loop"),
                                     tr("Start the scenario again whenever it has ended.")};
     const QCommandLineOption m_screenshot{
@@ -89,11 +92,11 @@ OptionParser::OptionParser()
            "  workbench --headless --scenario everything      print what happens\n"
            "  workbench --headless --screenshot picture.png   save a picture as well\n"
            "\n"
-           "Exit codes: 0 all went well, 1 the work could not be done, 2 an option or a file is "
-           "wrong."));
+           "Exit codes: 0 all went well, 1 errors are listed at the end of a run without a window, 2 "
+           "an option or a file is wrong, 3 the work could not be done."));
     m_parser.addOption(m_page);
     m_parser.addOptions({m_headless, m_site, m_scenario, m_speed, m_loop, m_screenshot,
-                         m_screenshotAt, m_language, m_log, m_plugin, m_help, m_version});
+                         m_screenshotAt, m_ignoreErrors, m_language, m_log, m_plugin, m_help, m_version});
 }
 
 Options OptionParser::parse(const QStringList &arguments)
@@ -108,6 +111,7 @@ Options OptionParser::parse(const QStringList &arguments)
     options.wantsVersion = m_parser.isSet(m_version);
     options.isHeadless = m_parser.isSet(m_headless);
     options.isLooped = m_parser.isSet(m_loop);
+    options.ignoresErrors = m_parser.isSet(m_ignoreErrors);
     options.siteFile = bundledOrFile(m_site, QStringLiteral("sites"));
     options.scenarioFile = bundledOrFile(m_scenario, QStringLiteral("scenarios"));
     options.pluginFile = m_parser.value(m_plugin);

@@ -20,6 +20,7 @@ struct Options
     double speed = 1.0;
     bool isHeadless = false;
     bool isLooped = false;
+    bool ignoresErrors = false; ///< in the exit code
     bool wantsHelp = false;
     bool wantsVersion = false;
 };

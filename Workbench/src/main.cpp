@@ -3,6 +3,7 @@
 #include "DashboardFeed.h"
 #include "DashboardWindow.h"
 #include "Display.h"
+#include "ExitCode.h"
 #include "FileExport.h"
 #include "HeadlessRun.h"
 #include "HostError.h"
@@ -26,12 +27,9 @@
 #include <QTextStream>
 
 #include <algorithm>
-#include <cstdlib>
 #include <memory>
 
 namespace {
-
-constexpr int ExitBadInput = 2;
 
 QStringList toStringList(int argc, char **argv)
 {
@@ -88,12 +86,14 @@ QUrl pageUrl(const Options &options)
                : QUrl::fromLocalFile(QFileInfo(options.pageFile).absoluteFilePath());
 }
 
-int playHeadless(Workbench &workbench, const Clock &clock, Screenshot *screenshot)
+int playHeadless(const Options &options, Workbench &workbench, const Clock &clock,
+                 Screenshot *screenshot)
 {
     QTextStream out(stdout);
     ConsoleReport report(out, clock);
     report.follow(workbench);
-    return HeadlessRun(workbench, report, screenshot).exec();
+    const int code = HeadlessRun(workbench, report, screenshot).exec();
+    return code == ExitCode::ErrorsRemain && options.ignoresErrors ? ExitCode::Success : code;
 }
 
 int play(const Options &options, Catalogues &catalogues)
@@ -114,7 +114,7 @@ int play(const Options &options, Catalogues &catalogues)
         engine = std::make_unique<QQmlEngine>();
     Workbench workbench(host, engine ? engine->rootContext() : nullptr, site, scenario, log, clock);
     if (!engine)
-        return playHeadless(workbench, clock, nullptr);
+        return playHeadless(options, workbench, clock, nullptr);
 
     FileExport files(FileExport::usualFolder());
     OperationalLogReader logReader(log, workbench.logPlugin());
@@ -131,7 +131,7 @@ int play(const Options &options, Catalogues &catalogues)
     if (!isHeadless)
         return WindowRun(workbench, window, screenshot, options.isLooped).exec();
     window.show();
-    return playHeadless(workbench, clock, screenshot);
+    return playHeadless(options, workbench, clock, screenshot);
 }
 
 int run(int argc, char **argv)
@@ -146,7 +146,7 @@ int run(int argc, char **argv)
         QTextStream(stdout) << "workbench " WORKBENCH_VERSION "\n";
     else
         return play(options, catalogues);
-    return EXIT_SUCCESS;
+    return ExitCode::Success;
 }
 
 void complain(const QString &message)
@@ -164,9 +164,9 @@ int main(int argc, char **argv)
         return run(argc, argv);
     } catch (const InputError &error) {
         complain(error.message());
-        return ExitBadInput;
+        return ExitCode::BadInput;
     } catch (const HostError &error) {
         complain(error.message());
-        return EXIT_FAILURE;
+        return ExitCode::Failure;
     }
 }

@@ -44,6 +44,7 @@ void tst_Options::everythingHasADefault()
     QCOMPARE(options.speed, 1.0);
     QVERIFY(!options.isHeadless);
     QVERIFY(!options.isLooped);
+    QVERIFY(!options.ignoresErrors);
     QVERIFY(!options.wantsHelp);
     QVERIFY(!options.wantsVersion);
 }
@@ -52,7 +53,7 @@ void tst_Options::readsEveryOption()
 {
     const QString arguments = QStringLiteral(
         "--headless --loop --site s.json --scenario c.json --plugin p.so --screenshot x.png "
-        "--screenshot-at 1.5 --log l.sqlite --language de --speed 2.5 --help --version");
+        "--screenshot-at 1.5 --ignore-errors --log l.sqlite --language de --speed 2.5 --help --version");
     const Options options = parse(arguments.split(u' '));
     QCOMPARE(options.siteFile, QStringLiteral("s.json"));
     QCOMPARE(options.scenarioFile, QStringLiteral("c.json"));
@@ -64,6 +65,7 @@ void tst_Options::readsEveryOption()
     QCOMPARE(options.speed, 2.5);
     QVERIFY(options.isHeadless);
     QVERIFY(options.isLooped);
+    QVERIFY(options.ignoresErrors);
     QVERIFY(options.wantsHelp);
     QVERIFY(options.wantsVersion);
 }
@@ -133,7 +135,7 @@ void tst_Options::helpNamesEveryOption()
     const QString help = optionsHelp();
     for (const char *const option :
          {"--headless", "--site", "--scenario", "--speed", "--loop", "--screenshot",
-          "--screenshot-at", "--language", "--page", "--log", "--plugin", "--help", "--version"})
+          "--screenshot-at", "--ignore-errors", "--language", "--page", "--log", "--plugin", "--help", "--version"})
         QVERIFY2(help.contains(QString::fromLatin1(option)), option);
     QVERIFY(help.contains(QStringLiteral("Exit codes")));
 }
