@@ -138,20 +138,6 @@
         <source>%1%</source>
         <translation>%1 %</translation>
     </message>
-</context>
-<context>
-    <name>DashboardWindow</name>
-    <message>
-        <source>%1 - system monitor</source>
-        <translation>%1 - Systemüberwachung</translation>
-    </message>
-    <message>
-        <source>The dashboard cannot be loaded: %1</source>
-        <translation>Die Übersicht kann nicht geladen werden: %1</translation>
-    </message>
-</context>
-<context>
-    <name>HeadlessRun</name>
     <message>
         <source>picture</source>
         <translation>Bild</translation>
@@ -163,6 +149,17 @@
     <message>
         <source>%1 cannot be written</source>
         <translation>%1 kann nicht geschrieben werden</translation>
+    </message>
+</context>
+<context>
+    <name>DashboardWindow</name>
+    <message>
+        <source>%1 - system monitor</source>
+        <translation>%1 - Systemüberwachung</translation>
+    </message>
+    <message>
+        <source>The dashboard cannot be loaded: %1</source>
+        <translation>Die Übersicht kann nicht geladen werden: %1</translation>
     </message>
 </context>
 <context>
@@ -367,6 +364,18 @@ Exit codes: 0 all went well, 1 errors are listed at the end of a run without a w
 
 Rückgabewerte: 0 alles ging gut, 1 am Ende eines Laufs ohne Fenster stehen Fehler in der Liste, 2 eine Option oder eine Datei ist falsch, 3 die Arbeit war nicht möglich.</translation>
     </message>
+    <message>
+        <source>Without a window: print text, or json with one object a line for programs.</source>
+        <translation>Ohne Fenster: text ausgeben, oder json mit einem Objekt je Zeile für Programme.</translation>
+    </message>
+    <message>
+        <source>name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>--format: expected text or json, found &quot;%1&quot;.</source>
+        <translation>--format: erwartet: text oder json, gefunden: „%1“.</translation>
+    </message>
 </context>
 <context>
     <name>PluginHost</name>
@@ -483,6 +492,10 @@ Rückgabewerte: 0 alles ging gut, 1 am Ende eines Laufs ohne Fenster stehen Fehl
     <message>
         <source>--loop: expected a window.</source>
         <translation>--loop: erwartet: ein Fenster.</translation>
+    </message>
+    <message>
+        <source>--format: expected --headless as well.</source>
+        <translation>--format: erwartet: auch --headless.</translation>
     </message>
 </context>
 </TS>

@@ -1,12 +1,12 @@
 #include "HeadlessRun.h"
 
-#include "ConsoleReport.h"
+#include "RunReport.h"
 #include "Screenshot.h"
 #include "Workbench.h"
 
 #include <QCoreApplication>
 
-HeadlessRun::HeadlessRun(Workbench &workbench, ConsoleReport &report, Screenshot *screenshot)
+HeadlessRun::HeadlessRun(Workbench &workbench, RunReport &report, Screenshot *screenshot)
     : m_workbench(workbench)
     , m_report(report)
     , m_screenshot(screenshot)
@@ -30,12 +30,10 @@ void HeadlessRun::takeScreenshot()
 {
     if (!m_screenshot || m_screenshot->isTaken())
         return;
-    if (m_screenshot->take()) {
-        m_report.writeLine(tr("picture"), tr("saved as %1").arg(m_screenshot->fileName()));
-    } else {
-        m_report.writeLine(tr("picture"), tr("%1 cannot be written").arg(m_screenshot->fileName()));
+    const bool isSaved = m_screenshot->take();
+    m_report.writePicture(m_screenshot->fileName(), isSaved);
+    if (!isSaved)
         m_exitCode = ExitCode::Failure;
-    }
 }
 
 void HeadlessRun::end()

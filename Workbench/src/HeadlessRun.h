@@ -6,7 +6,7 @@
 
 #include <QObject>
 
-class ConsoleReport;
+class RunReport;
 class Screenshot;
 class Workbench;
 
@@ -19,10 +19,10 @@ class HeadlessRun : public QObject
 public:
     /// @param report     follows the Workbench already
     /// @param screenshot to be taken on the way or in the end, or null
-    HeadlessRun(Workbench &workbench, ConsoleReport &report, Screenshot *screenshot);
+    HeadlessRun(Workbench &workbench, RunReport &report, Screenshot *screenshot);
 
-    /// Runs the application. Returns its exit code: ErrorsRemain when the error list is not empty in
-    /// the end, Failure when the picture could not be written, which weighs more.
+    /// Runs the application. Returns its exit code: ErrorsRemain when the error list is not empty
+    /// in the end, Failure when the picture could not be written, which weighs more.
     int exec();
 
 private:
@@ -30,7 +30,7 @@ private:
     void end();
 
     Workbench &m_workbench;
-    ConsoleReport &m_report;
+    RunReport &m_report;
     Screenshot *m_screenshot;
     QuietPeriod m_quiet;
     int m_exitCode = ExitCode::Success;

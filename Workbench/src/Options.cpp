@@ -26,6 +26,7 @@ public:
 
 private:
     double number(const QCommandLineOption &option, double greatest) const;
+    ReportFormat format() const;
     QString bundledOrFile(const QCommandLineOption &option, const QString &folder) const;
 
     const QCommandLineOption m_headless{
@@ -46,6 +47,10 @@ private:
         tr("How many seconds of the scenario pass in a real one. Snoozes and the times printed "
            "follow; the plug-in's own delays and the samples of this machine do not."),
         tr("number"), QStringLiteral("1")};
+    const QCommandLineOption m_format{
+        QStringLiteral("format"),
+        tr("Without a window: print text, or json with one object a line for programs."),
+        tr("name"), QStringLiteral("text")};
     const QCommandLineOption m_ignoreErrors{
         QStringLiteral("ignore-errors"),
         tr("Without a window: end with exit code 0 although errors are listed in the end.")};
@@ -84,19 +89,20 @@ private:
 
 OptionParser::OptionParser()
 {
-    m_parser.setApplicationDescription(
-        tr("Runs the system-monitor plug-in in a stand-in for its host: with a site of recording "
-           "stations and cameras, a scenario of what happens there, and this machine's own load.\n"
-           "\n"
-           "  workbench                                       show the dashboard\n"
-           "  workbench --headless --scenario everything      print what happens\n"
-           "  workbench --headless --screenshot picture.png   save a picture as well\n"
-           "\n"
-           "Exit codes: 0 all went well, 1 errors are listed at the end of a run without a window, 2 "
-           "an option or a file is wrong, 3 the work could not be done."));
+    m_parser.setApplicationDescription(tr(
+        "Runs the system-monitor plug-in in a stand-in for its host: with a site of recording "
+        "stations and cameras, a scenario of what happens there, and this machine's own load.\n"
+        "\n"
+        "  workbench                                       show the dashboard\n"
+        "  workbench --headless --scenario everything      print what happens\n"
+        "  workbench --headless --screenshot picture.png   save a picture as well\n"
+        "\n"
+        "Exit codes: 0 all went well, 1 errors are listed at the end of a run without a window, 2 "
+        "an option or a file is wrong, 3 the work could not be done."));
     m_parser.addOption(m_page);
     m_parser.addOptions({m_headless, m_site, m_scenario, m_speed, m_loop, m_screenshot,
-                         m_screenshotAt, m_ignoreErrors, m_language, m_log, m_plugin, m_help, m_version});
+                         m_screenshotAt, m_format, m_ignoreErrors, m_language, m_log, m_plugin,
+                         m_help, m_version});
 }
 
 Options OptionParser::parse(const QStringList &arguments)
@@ -110,6 +116,7 @@ Options OptionParser::parse(const QStringList &arguments)
     options.wantsHelp = m_parser.isSet(m_help);
     options.wantsVersion = m_parser.isSet(m_version);
     options.isHeadless = m_parser.isSet(m_headless);
+    options.format = format();
     options.isLooped = m_parser.isSet(m_loop);
     options.ignoresErrors = m_parser.isSet(m_ignoreErrors);
     options.siteFile = bundledOrFile(m_site, QStringLiteral("sites"));
@@ -146,6 +153,16 @@ double OptionParser::number(const QCommandLineOption &option, double greatest) c
                              .arg(greatest)
                              .arg(text));
     return number;
+}
+
+ReportFormat OptionParser::format() const
+{
+    const QString name = m_parser.value(m_format);
+    if (name == QStringLiteral("text"))
+        return ReportFormat::Text;
+    if (name == QStringLiteral("json"))
+        return ReportFormat::Json;
+    throw InputError(tr("--format: expected text or json, found \"%1\".").arg(name));
 }
 
 QString OptionParser::bundledOrFile(const QCommandLineOption &option, const QString &folder) const

@@ -6,6 +6,9 @@
 
 #include <optional>
 
+/// How a run without a window tells what happens.
+enum class ReportFormat { Text, Json };
+
 /// What the user asks for on the command line.
 struct Options
 {
@@ -17,6 +20,7 @@ struct Options
     std::optional<qint64> screenshotAtMs; ///< of the scenario; the scenario decides without it
     std::optional<QString> logFile;
     QString language;
+    ReportFormat format = ReportFormat::Text; ///< without a window
     double speed = 1.0;
     bool isHeadless = false;
     bool isLooped = false;

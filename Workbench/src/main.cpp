@@ -8,6 +8,7 @@
 #include "HeadlessRun.h"
 #include "HostError.h"
 #include "InputError.h"
+#include "JsonReport.h"
 #include "OperationalLogReader.h"
 #include "Options.h"
 #include "PluginHost.h"
@@ -86,13 +87,20 @@ QUrl pageUrl(const Options &options)
                : QUrl::fromLocalFile(QFileInfo(options.pageFile).absoluteFilePath());
 }
 
+std::unique_ptr<RunReport> createReport(ReportFormat format, QTextStream &out, const Clock &clock)
+{
+    if (format == ReportFormat::Json)
+        return std::make_unique<JsonReport>(out, clock);
+    return std::make_unique<ConsoleReport>(out, clock);
+}
+
 int playHeadless(const Options &options, Workbench &workbench, const Clock &clock,
                  Screenshot *screenshot)
 {
     QTextStream out(stdout);
-    ConsoleReport report(out, clock);
-    report.follow(workbench);
-    const int code = HeadlessRun(workbench, report, screenshot).exec();
+    const std::unique_ptr<RunReport> report = createReport(options.format, out, clock);
+    report->follow(workbench);
+    const int code = HeadlessRun(workbench, *report, screenshot).exec();
     return code == ExitCode::ErrorsRemain && options.ignoresErrors ? ExitCode::Success : code;
 }
 
@@ -101,6 +109,9 @@ int play(const Options &options, Catalogues &catalogues)
     const bool isHeadless = runsHeadless(options);
     if (isHeadless && options.isLooped)
         throw InputError(QCoreApplication::translate("main", "--loop: expected a window."));
+    if (!isHeadless && options.format != ReportFormat::Text)
+        throw InputError(
+            QCoreApplication::translate("main", "--format: expected --headless as well."));
     const Site site = readSite(options);
     const Scenario scenario = readScenario(options, site);
 

@@ -45,6 +45,7 @@ void tst_Options::everythingHasADefault()
     QVERIFY(!options.isHeadless);
     QVERIFY(!options.isLooped);
     QVERIFY(!options.ignoresErrors);
+    QCOMPARE(options.format, ReportFormat::Text);
     QVERIFY(!options.wantsHelp);
     QVERIFY(!options.wantsVersion);
 }
@@ -53,7 +54,8 @@ void tst_Options::readsEveryOption()
 {
     const QString arguments = QStringLiteral(
         "--headless --loop --site s.json --scenario c.json --plugin p.so --screenshot x.png "
-        "--screenshot-at 1.5 --ignore-errors --log l.sqlite --language de --speed 2.5 --help --version");
+        "--screenshot-at 1.5 --ignore-errors --format json --log l.sqlite --language de --speed "
+        "2.5 --help --version");
     const Options options = parse(arguments.split(u' '));
     QCOMPARE(options.siteFile, QStringLiteral("s.json"));
     QCOMPARE(options.scenarioFile, QStringLiteral("c.json"));
@@ -66,6 +68,7 @@ void tst_Options::readsEveryOption()
     QVERIFY(options.isHeadless);
     QVERIFY(options.isLooped);
     QVERIFY(options.ignoresErrors);
+    QCOMPARE(options.format, ReportFormat::Json);
     QVERIFY(options.wantsHelp);
     QVERIFY(options.wantsVersion);
 }
@@ -112,6 +115,8 @@ void tst_Options::wrongOptionsAreRefused_data()
                                                "to 1000, found \"%1\".")
                                     .arg(text);
     }
+    QTest::newRow("format") << QStringLiteral("--format xml")
+                            << QStringLiteral("--format: expected text or json, found \"xml\".");
     QTest::newRow("page that is not there")
         << QStringLiteral("--page none.qml")
         << QStringLiteral("--page: expected a QML file, found \"none.qml\".");
@@ -135,7 +140,8 @@ void tst_Options::helpNamesEveryOption()
     const QString help = optionsHelp();
     for (const char *const option :
          {"--headless", "--site", "--scenario", "--speed", "--loop", "--screenshot",
-          "--screenshot-at", "--ignore-errors", "--language", "--page", "--log", "--plugin", "--help", "--version"})
+          "--screenshot-at", "--ignore-errors", "--format", "--language", "--page", "--log",
+          "--plugin", "--help", "--version"})
         QVERIFY2(help.contains(QString::fromLatin1(option)), option);
     QVERIFY(help.contains(QStringLiteral("Exit codes")));
 }

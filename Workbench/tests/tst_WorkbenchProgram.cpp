@@ -1,6 +1,9 @@
 #include "TextFile.h"
 
 #include <QImage>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QSet>
@@ -20,7 +23,8 @@ struct Outcome
 // Lines of this machine's own load come and go as they please.
 bool isOfThisMachine(const QString &line)
 {
-    return line.contains(QStringLiteral("_this-machine"));
+    return line.contains(QStringLiteral("_this-machine"))
+           && !line.contains(QStringLiteral("\"summary\""));
 }
 
 Outcome run(const QStringList &arguments)
@@ -75,6 +79,7 @@ private Q_SLOTS:
     void showsAPageOfOnesOwn();
     void walkAfterTheEndIsWaitedFor();
     void speaksGerman();
+    void jsonIsAllThatIsPrinted();
     void helpAndVersionNeedNothing();
     void wrongInputIsRefused_data();
     void wrongInputIsRefused();
@@ -84,7 +89,8 @@ private Q_SLOTS:
 
 void tst_WorkbenchProgram::everythingScenarioShowsEveryKindOfHappening()
 {
-    const Outcome outcome = run(options("--headless --ignore-errors --scenario everything --speed 6"));
+    const Outcome outcome =
+        run(options("--headless --ignore-errors --scenario everything --speed 6"));
     QCOMPARE(outcome.exitCode, 0);
     QCOMPARE(outcome.errors, QString());
 
@@ -158,8 +164,9 @@ void tst_WorkbenchProgram::defaultScenarioLeavesAPictureAndALog()
     const QTemporaryDir directory;
     const QString picture = directory.filePath(QStringLiteral("dashboard.png"));
     const QString log = directory.filePath(QStringLiteral("log.sqlite"));
-    const Outcome outcome = run(options("--headless --ignore-errors --speed 8 --screenshot-at 50 --screenshot")
-                                << picture << QStringLiteral("--log") << log);
+    const Outcome outcome =
+        run(options("--headless --ignore-errors --speed 8 --screenshot-at 50 --screenshot")
+            << picture << QStringLiteral("--log") << log);
     QCOMPARE(outcome.exitCode, 0);
     QCOMPARE(outcome.errors, QString());
     QVERIFY(outcome.has(QStringLiteral("picture   saved as ") + picture));
@@ -177,10 +184,10 @@ void tst_WorkbenchProgram::showsAPageOfOnesOwn()
     const QString picture = directory.filePath(QStringLiteral("page.png"));
     const TextFile scenario(
         R"({"events": [{"at": 0, "do": "cameraDown", "camera": "office/lobby"}]})");
-    const Outcome outcome = run({QStringLiteral("--headless"), QStringLiteral("--ignore-errors"),
-                                 QStringLiteral("--page"),
-                                 QStringLiteral(EXAMPLE_PAGE), QStringLiteral("--scenario"),
-                                 scenario.path(), QStringLiteral("--screenshot"), picture});
+    const Outcome outcome =
+        run({QStringLiteral("--headless"), QStringLiteral("--ignore-errors"),
+             QStringLiteral("--page"), QStringLiteral(EXAMPLE_PAGE), QStringLiteral("--scenario"),
+             scenario.path(), QStringLiteral("--screenshot"), picture});
     QCOMPARE(outcome.exitCode, 0);
     QCOMPARE(outcome.errors, QString());
     const QImage image(picture);
@@ -217,6 +224,33 @@ void tst_WorkbenchProgram::speaksGerman()
                                         "/ Kamera: Lobby  [3_office/lobby]")),
              qPrintable(outcome.lines.join(u'\n')));
     QVERIFY(outcome.has(QStringLiteral("Zusammenfassung")));
+}
+
+void tst_WorkbenchProgram::jsonIsAllThatIsPrinted()
+{
+    const QTemporaryDir directory;
+    const TextFile scenario(
+        R"({"events": [{"at": 0, "do": "cameraDown", "camera": "office/lobby"}]})");
+    const Outcome outcome = run(options("--headless --format json --language de --scenario")
+                                << scenario.path() << QStringLiteral("--screenshot")
+                                << directory.filePath(QStringLiteral("x.png")));
+    QCOMPARE(outcome.exitCode, 1);
+    QCOMPARE(outcome.errors, QString());
+    QStringList events;
+    QJsonObject last;
+    for (const QString &line : outcome.lines.mid(0, outcome.lines.size() - 1)) {
+        last = QJsonDocument::fromJson(line.toUtf8()).object();
+        QVERIFY2(
+            QDateTime::fromString(last.value(QStringLiteral("time")).toString(), Qt::ISODateWithMs)
+                .isValid(),
+            qPrintable(line));
+        events.append(last.value(QStringLiteral("event")).toString());
+    }
+    for (const char *const event : {"connection", "raised", "picture"})
+        QVERIFY2(events.contains(QLatin1String(event)), event);
+    QCOMPARE(events.constLast(), QStringLiteral("summary"));
+    QVERIFY(!last.value(QStringLiteral("errors")).toArray().isEmpty());
+    QCOMPARE(outcome.lines.constLast(), QString());
 }
 
 void tst_WorkbenchProgram::helpAndVersionNeedNothing()
