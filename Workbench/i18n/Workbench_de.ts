@@ -245,6 +245,13 @@
     </message>
 </context>
 <context>
+    <name>MetricsServer</name>
+    <message>
+        <source>--metrics: port %1 cannot be used: %2</source>
+        <translation>--metrics: Port %1 kann nicht benutzt werden: %2</translation>
+    </message>
+</context>
+<context>
     <name>OperationalLogReader</name>
     <message>
         <source>Error snoozed</source>
@@ -376,6 +383,18 @@ Rückgabewerte: 0 alles ging gut, 1 am Ende eines Laufs ohne Fenster stehen Fehl
         <source>--format: expected text or json, found &quot;%1&quot;.</source>
         <translation>--format: erwartet: text oder json, gefunden: „%1“.</translation>
     </message>
+    <message>
+        <source>Offer figures for monitoring, as OpenMetrics text at http://127.0.0.1:PORT/metrics. With 0 a free port is chosen. The address is printed on standard error.</source>
+        <translation>Kennzahlen zur Überwachung anbieten, als OpenMetrics-Text unter http://127.0.0.1:PORT/metrics. Mit 0 wird ein freier Port gewählt. Die Adresse wird auf der Standardfehlerausgabe ausgegeben.</translation>
+    </message>
+    <message>
+        <source>port</source>
+        <translation>Port</translation>
+    </message>
+    <message>
+        <source>--metrics: expected a port from 0 to 65535, found &quot;%1&quot;.</source>
+        <translation>--metrics: erwartet: ein Port von 0 bis 65535, gefunden: „%1“.</translation>
+    </message>
 </context>
 <context>
     <name>PluginHost</name>
@@ -496,6 +515,10 @@ Rückgabewerte: 0 alles ging gut, 1 am Ende eines Laufs ohne Fenster stehen Fehl
     <message>
         <source>--format: expected --headless as well.</source>
         <translation>--format: erwartet: auch --headless.</translation>
+    </message>
+    <message>
+        <source>Metrics are at %1</source>
+        <translation>Kennzahlen stehen unter %1</translation>
     </message>
 </context>
 </TS>

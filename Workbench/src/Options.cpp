@@ -27,6 +27,7 @@ public:
 private:
     double number(const QCommandLineOption &option, double greatest) const;
     ReportFormat format() const;
+    quint16 metricsPort() const;
     QString bundledOrFile(const QCommandLineOption &option, const QString &folder) const;
 
     const QCommandLineOption m_headless{
@@ -76,6 +77,12 @@ private:
         tr("Keep the operational log in this SQLite file. Without it the log is kept among the "
            "user's data, or only in memory when there is no window."),
         tr("file")};
+    const QCommandLineOption m_metrics{
+        QStringLiteral("metrics"),
+        tr("Offer figures for monitoring, as OpenMetrics text at http://127.0.0.1:PORT/metrics. "
+           "With "
+           "0 a free port is chosen. The address is printed on standard error."),
+        tr("port")};
     const QCommandLineOption m_plugin{
         QStringLiteral("plugin"),
         tr("Load this plug-in file instead of the one that was built with this program."),
@@ -101,8 +108,8 @@ OptionParser::OptionParser()
         "an option or a file is wrong, 3 the work could not be done."));
     m_parser.addOption(m_page);
     m_parser.addOptions({m_headless, m_site, m_scenario, m_speed, m_loop, m_screenshot,
-                         m_screenshotAt, m_format, m_ignoreErrors, m_language, m_log, m_plugin,
-                         m_help, m_version});
+                         m_screenshotAt, m_format, m_ignoreErrors, m_metrics, m_language, m_log,
+                         m_plugin, m_help, m_version});
 }
 
 Options OptionParser::parse(const QStringList &arguments)
@@ -117,6 +124,8 @@ Options OptionParser::parse(const QStringList &arguments)
     options.wantsVersion = m_parser.isSet(m_version);
     options.isHeadless = m_parser.isSet(m_headless);
     options.format = format();
+    if (m_parser.isSet(m_metrics))
+        options.metricsPort = metricsPort();
     options.isLooped = m_parser.isSet(m_loop);
     options.ignoresErrors = m_parser.isSet(m_ignoreErrors);
     options.siteFile = bundledOrFile(m_site, QStringLiteral("sites"));
@@ -163,6 +172,16 @@ ReportFormat OptionParser::format() const
     if (name == QStringLiteral("json"))
         return ReportFormat::Json;
     throw InputError(tr("--format: expected text or json, found \"%1\".").arg(name));
+}
+
+quint16 OptionParser::metricsPort() const
+{
+    bool isPort = false;
+    const QString text = m_parser.value(m_metrics);
+    const quint16 port = text.toUShort(&isPort);
+    if (!isPort)
+        throw InputError(tr("--metrics: expected a port from 0 to 65535, found \"%1\".").arg(text));
+    return port;
 }
 
 QString OptionParser::bundledOrFile(const QCommandLineOption &option, const QString &folder) const

@@ -19,6 +19,7 @@ struct Options
     QString screenshotFile;               ///< empty for none
     std::optional<qint64> screenshotAtMs; ///< of the scenario; the scenario decides without it
     std::optional<QString> logFile;
+    std::optional<quint16> metricsPort; ///< 0 for one that is free
     QString language;
     ReportFormat format = ReportFormat::Text; ///< without a window
     double speed = 1.0;

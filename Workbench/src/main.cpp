@@ -9,6 +9,7 @@
 #include "HostError.h"
 #include "InputError.h"
 #include "JsonReport.h"
+#include "MetricsServer.h"
 #include "OperationalLogReader.h"
 #include "Options.h"
 #include "PluginHost.h"
@@ -87,6 +88,18 @@ QUrl pageUrl(const Options &options)
                : QUrl::fromLocalFile(QFileInfo(options.pageFile).absoluteFilePath());
 }
 
+// Null when nobody asks for metrics.
+std::unique_ptr<MetricsServer> serveMetrics(const Options &options, Workbench &workbench)
+{
+    if (!options.metricsPort)
+        return nullptr;
+    auto server = std::make_unique<MetricsServer>(workbench, *options.metricsPort);
+    const QString url = QStringLiteral("http://127.0.0.1:%1/metrics").arg(server->port());
+    QTextStream(stderr) << QCoreApplication::translate("main", "Metrics are at %1").arg(url)
+                        << Qt::endl;
+    return server;
+}
+
 std::unique_ptr<RunReport> createReport(ReportFormat format, QTextStream &out, const Clock &clock)
 {
     if (format == ReportFormat::Json)
@@ -124,6 +137,7 @@ int play(const Options &options, Catalogues &catalogues)
     if (!isHeadless || wantsPicture)
         engine = std::make_unique<QQmlEngine>();
     Workbench workbench(host, engine ? engine->rootContext() : nullptr, site, scenario, log, clock);
+    const std::unique_ptr<MetricsServer> metrics = serveMetrics(options, workbench);
     if (!engine)
         return playHeadless(options, workbench, clock, nullptr);
 

@@ -40,6 +40,7 @@ void tst_Options::everythingHasADefault()
     QCOMPARE(options.screenshotFile, QString());
     QVERIFY(!options.screenshotAtMs);
     QVERIFY(!options.logFile);
+    QVERIFY(!options.metricsPort);
     QCOMPARE(options.language, QStringLiteral("en"));
     QCOMPARE(options.speed, 1.0);
     QVERIFY(!options.isHeadless);
@@ -54,7 +55,8 @@ void tst_Options::readsEveryOption()
 {
     const QString arguments = QStringLiteral(
         "--headless --loop --site s.json --scenario c.json --plugin p.so --screenshot x.png "
-        "--screenshot-at 1.5 --ignore-errors --format json --log l.sqlite --language de --speed "
+        "--screenshot-at 1.5 --ignore-errors --format json --metrics 9100 --log l.sqlite "
+        "--language de --speed "
         "2.5 --help --version");
     const Options options = parse(arguments.split(u' '));
     QCOMPARE(options.siteFile, QStringLiteral("s.json"));
@@ -68,6 +70,7 @@ void tst_Options::readsEveryOption()
     QVERIFY(options.isHeadless);
     QVERIFY(options.isLooped);
     QVERIFY(options.ignoresErrors);
+    QCOMPARE(options.metricsPort, std::optional(quint16(9100)));
     QCOMPARE(options.format, ReportFormat::Json);
     QVERIFY(options.wantsHelp);
     QVERIFY(options.wantsVersion);
@@ -115,6 +118,13 @@ void tst_Options::wrongOptionsAreRefused_data()
                                                "to 1000, found \"%1\".")
                                     .arg(text);
     }
+    for (const char *const port : {"-1", "65536", "http", "", "80.5"}) {
+        const QString text = QString::fromLatin1(port);
+        QTest::addRow("port '%s'", port)
+            << QStringLiteral("--metrics=") + text
+            << QStringLiteral("--metrics: expected a port from 0 to 65535, found \"%1\".")
+                   .arg(text);
+    }
     QTest::newRow("format") << QStringLiteral("--format xml")
                             << QStringLiteral("--format: expected text or json, found \"xml\".");
     QTest::newRow("page that is not there")
@@ -140,8 +150,8 @@ void tst_Options::helpNamesEveryOption()
     const QString help = optionsHelp();
     for (const char *const option :
          {"--headless", "--site", "--scenario", "--speed", "--loop", "--screenshot",
-          "--screenshot-at", "--ignore-errors", "--format", "--language", "--page", "--log",
-          "--plugin", "--help", "--version"})
+          "--screenshot-at", "--ignore-errors", "--format", "--metrics", "--language", "--page",
+          "--log", "--plugin", "--help", "--version"})
         QVERIFY2(help.contains(QString::fromLatin1(option)), option);
     QVERIFY(help.contains(QStringLiteral("Exit codes")));
 }

@@ -7,6 +7,8 @@
 #include <QProcess>
 #include <QRegularExpression>
 #include <QSet>
+#include <QTcpServer>
+#include <QTcpSocket>
 #include <QTest>
 
 namespace {
@@ -80,6 +82,8 @@ private Q_SLOTS:
     void walkAfterTheEndIsWaitedFor();
     void speaksGerman();
     void jsonIsAllThatIsPrinted();
+    void metricsAreServedWhileItRuns();
+    void portInUseIsRefused();
     void helpAndVersionNeedNothing();
     void wrongInputIsRefused_data();
     void wrongInputIsRefused();
@@ -251,6 +255,40 @@ void tst_WorkbenchProgram::jsonIsAllThatIsPrinted()
     QCOMPARE(events.constLast(), QStringLiteral("summary"));
     QVERIFY(!last.value(QStringLiteral("errors")).toArray().isEmpty());
     QCOMPARE(outcome.lines.constLast(), QString());
+}
+
+void tst_WorkbenchProgram::metricsAreServedWhileItRuns()
+{
+    const TextFile scenario(R"({"events": [], "endAt": 60})");
+    QProcess program;
+    program.start(QStringLiteral(WORKBENCH_PROGRAM),
+                  options("--headless --format json --metrics 0 --scenario") << scenario.path());
+    const QRegularExpression address(
+        QStringLiteral("^Metrics are at http://127.0.0.1:(\\d+)/metrics\n"));
+    QString errors;
+    while (!address.match(errors).hasMatch() && program.waitForReadyRead(30'000))
+        errors += QString::fromUtf8(program.readAllStandardError());
+    QTcpSocket client;
+    client.connectToHost(QHostAddress::LocalHost, address.match(errors).captured(1).toUShort());
+    client.write("GET /metrics HTTP/1.1\r\nHost: localhost\r\n\r\n");
+    QByteArray answer;
+    while (!answer.contains("# EOF\n") && client.waitForReadyRead(30'000))
+        answer += client.readAll();
+    program.kill();
+    program.waitForFinished();
+    QVERIFY2(answer.contains("\nsystem_monitor_server_connected 1\n"), answer.constData());
+}
+
+void tst_WorkbenchProgram::portInUseIsRefused()
+{
+    QTcpServer other;
+    QVERIFY(other.listen(QHostAddress::LocalHost));
+    const QString port = QString::number(other.serverPort());
+    const Outcome outcome = run(options("--headless --metrics") << port);
+    QCOMPARE(outcome.exitCode, 2);
+    QCOMPARE(outcome.errors, QStringLiteral("workbench: --metrics: port %1 cannot be used: The "
+                                            "bound address is already in use\n")
+                                 .arg(port));
 }
 
 void tst_WorkbenchProgram::helpAndVersionNeedNothing()
