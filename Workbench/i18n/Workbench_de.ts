@@ -356,22 +356,6 @@
         <translation>Ohne Fenster: mit dem Rückgabewert 0 enden, auch wenn am Ende Fehler in der Liste stehen.</translation>
     </message>
     <message>
-        <source>Runs the system-monitor plug-in in a stand-in for its host: with a site of recording stations and cameras, a scenario of what happens there, and this machine&apos;s own load.
-
-  workbench                                       show the dashboard
-  workbench --headless --scenario everything      print what happens
-  workbench --headless --screenshot picture.png   save a picture as well
-
-Exit codes: 0 all went well, 1 errors are listed at the end of a run without a window, 2 an option or a file is wrong, 3 the work could not be done.</source>
-        <translation>Führt das Plug-in zur Systemüberwachung in einem Ersatz für sein Wirtsprogramm aus: mit einem Standort aus Aufzeichnungsstationen und Kameras, einem Szenario der Ereignisse und der Auslastung dieses Rechners.
-
-  workbench                                       die Übersicht zeigen
-  workbench --headless --scenario everything      ausgeben, was geschieht
-  workbench --headless --screenshot picture.png   auch ein Bild speichern
-
-Rückgabewerte: 0 alles ging gut, 1 am Ende eines Laufs ohne Fenster stehen Fehler in der Liste, 2 eine Option oder eine Datei ist falsch, 3 die Arbeit war nicht möglich.</translation>
-    </message>
-    <message>
         <source>Without a window: print text, or json with one object a line for programs.</source>
         <translation>Ohne Fenster: text ausgeben, oder json mit einem Objekt je Zeile für Programme.</translation>
     </message>
@@ -394,6 +378,74 @@ Rückgabewerte: 0 alles ging gut, 1 am Ende eines Laufs ohne Fenster stehen Fehl
     <message>
         <source>--metrics: expected a port from 0 to 65535, found &quot;%1&quot;.</source>
         <translation>--metrics: erwartet: ein Port von 0 bis 65535, gefunden: „%1“.</translation>
+    </message>
+    <message>
+        <source>What is shown:</source>
+        <translation>Was gezeigt wird:</translation>
+    </message>
+    <message>
+        <source>Pictures and logs:</source>
+        <translation>Bilder und Protokolle:</translation>
+    </message>
+    <message>
+        <source>For scripts and monitoring:</source>
+        <translation>Für Skripte und Überwachung:</translation>
+    </message>
+    <message>
+        <source>Others:</source>
+        <translation>Weitere:</translation>
+    </message>
+    <message>
+        <source>Usage: workbench [options]
+</source>
+        <translation>Aufruf: workbench [Optionen]
+</translation>
+    </message>
+    <message>
+        <source>Examples:
+  workbench
+      show the dashboard with the bundled site and scenario
+  workbench --headless --scenario everything --speed 6
+      print every kind of happening, six times as fast
+  workbench --headless --screenshot picture.png
+      save a picture of the dashboard as well
+  workbench --headless --format json --ignore-errors
+      print one JSON object a line for a program to read
+</source>
+        <translation>Beispiele:
+  workbench
+      die Übersicht mit dem mitgelieferten Standort und Szenario zeigen
+  workbench --headless --scenario everything --speed 6
+      jede Art von Ereignis ausgeben, sechsmal so schnell
+  workbench --headless --screenshot bild.png
+      auch ein Bild der Übersicht speichern
+  workbench --headless --format json --ignore-errors
+      ein JSON-Objekt je Zeile ausgeben, für ein Programm
+</translation>
+    </message>
+    <message>
+        <source>Exit codes:
+  0  all went well
+  1  errors are listed at the end of a run without a window
+  2  an option or a file is wrong
+  3  the work could not be done
+</source>
+        <translation>Rückgabewerte:
+  0  alles ging gut
+  1  am Ende eines Laufs ohne Fenster stehen Fehler in der Liste
+  2  eine Option oder eine Datei ist falsch
+  3  die Arbeit war nicht möglich
+</translation>
+    </message>
+    <message>
+        <source>Runs the system-monitor plug-in in a stand-in for its host: with a site of
+recording stations and cameras, a scenario of what happens there, and this
+machine&apos;s own load.
+</source>
+        <translation>Führt das Plug-in zur Systemüberwachung in einem Ersatz für sein
+Wirtsprogramm aus: mit einem Standort aus Aufzeichnungsstationen und Kameras,
+einem Szenario der Ereignisse und der Auslastung dieses Rechners.
+</translation>
     </message>
 </context>
 <context>

@@ -1,5 +1,6 @@
 #include "Options.h"
 
+#include "HelpText.h"
 #include "InputError.h"
 
 #include <QCommandLineParser>
@@ -25,6 +26,7 @@ public:
     QString help() const;
 
 private:
+    QList<OptionGroup> optionGroups() const;
     double number(const QCommandLineOption &option, double greatest) const;
     ReportFormat format() const;
     quint16 metricsPort() const;
@@ -96,20 +98,17 @@ private:
 
 OptionParser::OptionParser()
 {
-    m_parser.setApplicationDescription(tr(
-        "Runs the system-monitor plug-in in a stand-in for its host: with a site of recording "
-        "stations and cameras, a scenario of what happens there, and this machine's own load.\n"
-        "\n"
-        "  workbench                                       show the dashboard\n"
-        "  workbench --headless --scenario everything      print what happens\n"
-        "  workbench --headless --screenshot picture.png   save a picture as well\n"
-        "\n"
-        "Exit codes: 0 all went well, 1 errors are listed at the end of a run without a window, 2 "
-        "an option or a file is wrong, 3 the work could not be done."));
-    m_parser.addOption(m_page);
-    m_parser.addOptions({m_headless, m_site, m_scenario, m_speed, m_loop, m_screenshot,
-                         m_screenshotAt, m_format, m_ignoreErrors, m_metrics, m_language, m_log,
-                         m_plugin, m_help, m_version});
+    const QList<OptionGroup> groups = optionGroups();
+    for (const OptionGroup &group : groups)
+        m_parser.addOptions(group.options);
+}
+
+QList<OptionGroup> OptionParser::optionGroups() const
+{
+    return {{tr("What is shown:"), {m_site, m_scenario, m_speed, m_loop, m_page, m_language}},
+            {tr("Pictures and logs:"), {m_screenshot, m_screenshotAt, m_log}},
+            {tr("For scripts and monitoring:"), {m_headless, m_format, m_ignoreErrors, m_metrics}},
+            {tr("Others:"), {m_plugin, m_help, m_version}}};
 }
 
 Options OptionParser::parse(const QStringList &arguments)
@@ -148,7 +147,29 @@ Options OptionParser::parse(const QStringList &arguments)
 
 QString OptionParser::help() const
 {
-    return m_parser.helpText();
+    QStringList sections{
+        tr("Usage: workbench [options]\n"),
+        tr("Runs the system-monitor plug-in in a stand-in for its host: with a site of\n"
+           "recording stations and cameras, a scenario of what happens there, and this\n"
+           "machine's own load.\n")};
+    const QList<OptionGroup> groups = optionGroups();
+    for (const OptionGroup &group : groups)
+        sections.append(helpText(group));
+    sections.append(tr("Examples:\n"
+                       "  workbench\n"
+                       "      show the dashboard with the bundled site and scenario\n"
+                       "  workbench --headless --scenario everything --speed 6\n"
+                       "      print every kind of happening, six times as fast\n"
+                       "  workbench --headless --screenshot picture.png\n"
+                       "      save a picture of the dashboard as well\n"
+                       "  workbench --headless --format json --ignore-errors\n"
+                       "      print one JSON object a line for a program to read\n"));
+    sections.append(tr("Exit codes:\n"
+                       "  0  all went well\n"
+                       "  1  errors are listed at the end of a run without a window\n"
+                       "  2  an option or a file is wrong\n"
+                       "  3  the work could not be done\n"));
+    return sections.join(u'\n');
 }
 
 double OptionParser::number(const QCommandLineOption &option, double greatest) const

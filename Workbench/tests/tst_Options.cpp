@@ -27,6 +27,7 @@ private Q_SLOTS:
     void wrongOptionsAreRefused_data();
     void wrongOptionsAreRefused();
     void helpNamesEveryOption();
+    void helpFitsATerminal();
     void defaultPluginIsBesideTheProgram();
 };
 
@@ -154,6 +155,14 @@ void tst_Options::helpNamesEveryOption()
           "--log", "--plugin", "--help", "--version"})
         QVERIFY2(help.contains(QString::fromLatin1(option)), option);
     QVERIFY(help.contains(QStringLiteral("Exit codes")));
+    QVERIFY(help.contains(QStringLiteral("Examples")));
+}
+
+void tst_Options::helpFitsATerminal()
+{
+    const QStringList lines = optionsHelp().split(u'\n');
+    for (const QString &line : lines)
+        QVERIFY2(line.size() < 80, qPrintable(line));
 }
 
 void tst_Options::defaultPluginIsBesideTheProgram()
