@@ -58,7 +58,7 @@ Options Options::fromArguments(const QStringList &arguments)
 {
     const QCommandLineOption scenario(
         QStringLiteral("scenario"),
-        QStringLiteral("The benchmarks to run, of a to k, load, memory, idle and sampler."),
+        QStringLiteral("The benchmarks to run, of a to l, load, memory, idle and sampler."),
         QStringLiteral("a,b,..."));
     const QCommandLineOption size(QStringLiteral("n"), QStringLiteral("The values of N."),
                                   QStringLiteral("1000,..."),

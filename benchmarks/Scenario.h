@@ -36,5 +36,6 @@ extern const Scenario ResourceReports;
 extern const Scenario StationCounts;
 extern const Scenario FocusStationReports;
 extern const Scenario TopologyFilled;
+extern const Scenario FirstName;
 
 #endif

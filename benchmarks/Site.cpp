@@ -50,6 +50,12 @@ QStringList Site::cameraIDs() const
     return ids;
 }
 
+void Site::addStationsTo(TopologyModel &topology, bool connected) const
+{
+    for (const Station &station : m_stations)
+        topology.addStation(station.id, station.name, connected);
+}
+
 void Site::addTo(TopologyModel &topology, bool connected) const
 {
     for (const Station &station : m_stations)

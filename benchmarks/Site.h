@@ -28,6 +28,9 @@ public:
     /// The cameras of all stations, station by station.
     QStringList cameraIDs() const;
 
+    /// Adds all stations to the topology, without their cameras.
+    void addStationsTo(TopologyModel &topology, bool connected) const;
+
     /// Adds all stations with their cameras to the topology.
     void addTo(TopologyModel &topology, bool connected) const;
 

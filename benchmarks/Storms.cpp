@@ -18,7 +18,7 @@ const std::array AllScenarios = {
     &StartUpWalkConnected, &StartUpWalkDisconnected, &CamerasGoDown,
     &CamerasComeBack,      &ServerDisconnects,       &TextFilter,
     &StationsRemoved,      &ResourceReports,         &StationCounts,
-    &FocusStationReports,  &TopologyFilled,
+    &FocusStationReports,  &TopologyFilled,          &FirstName,
 };
 
 const QString Missing = QStringLiteral("—");

@@ -85,7 +85,7 @@ double report(const Setting &setting)
     const Site site(setting.size, ReportsPerStation);
     const QList<Report> reports = makeReports(site, setting.size);
     SilentHost host(setting.pluginFile);
-    site.addTo(host.topologyModel, true);
+    site.addStationsTo(host.topologyModel, true);
 
     const StopWatch watch;
     for (const Report &sent : reports)

@@ -24,8 +24,7 @@ HostedPlugin &site()
         hosted.plugin.addCameraError(u"st1/cam1"_s, CameraDisconnected, QString());
         hosted.plugin.addCameraError(u"stray"_s, CameraDisconnected, QString());
         hosted.plugin.addSystemError(u"st1"_s, StationDisconnected, QString(), QString());
-        hosted.plugin.addSystemError(u"st10"_s, HighCpuUsage, QString(),
-                                     u"aaaaaaaa!"_s);
+        hosted.plugin.addSystemError(u"st10"_s, HighCpuUsage, QString(), u"aaaaaaaa!"_s);
         hosted.plugin.addSystemError(QString(), VolumeDisconnected, QString(), u"x"_s);
         return true;
     }();

@@ -2,6 +2,7 @@
 #include "ISystemResourceMonitor.h"
 #include "SystemErrorModel.h"
 #include "SystemResourceModelControl.h"
+#include "SystemResourceMonitor.h"
 
 #include <QAbstractItemModelTester>
 #include <QRegularExpression>
@@ -26,6 +27,7 @@ private Q_SLOTS:
     void walkEndsWithTheStationThatItIsIn();
     void walkEndsWhenAnotherTopologyIsPaired();
     void walkGoesOnInATopologyThatShrinks();
+    void nodeReportedAsItComesHasItsName();
 
     void errorReportedAgainByAWatcherIsListedOnce();
     void errorClearedByAWatcherLeavesNoKey();
@@ -42,6 +44,7 @@ private Q_SLOTS:
     void reportSentByAWatcherKeepsTheLayout();
     void historyThatOthersEmptiedGrowsAgain();
     void bareResourceRowIsFilled();
+    void samplerMayBeReplacedByItsWatcher();
 
     void everythingIsHarmlessBeforeInitialisation();
     void initialisationAgainStartsOver();
@@ -229,6 +232,19 @@ void tst_PluginSystemMonitor_Reentrancy::walkGoesOnInATopologyThatShrinks()
     };
     paired.hosted.plugin.initNodeStatusError();
     QCOMPARE(paired.hosted.errorKeys(), QStringList({u"4_st1"_s, u"4_st3"_s, u"3_st3/cam"_s}));
+}
+
+void tst_PluginSystemMonitor_Reentrancy::nodeReportedAsItComesHasItsName()
+{
+    HostedPlugin hosted;
+    connect(&hosted.topologyModel, &Model::rowsInserted, this,
+            [&] { Q_EMIT hosted.topology.nodeStatusChanged(1, u"st2"_s, false); });
+    QCOMPARE(hosted.plugin.findDeviceName(u"st2"_s), QString());
+    hosted.topologyModel.addStation(u"st1"_s, u"Lobby"_s);
+    hosted.plugin.clearSystemErrorModel();
+    hosted.topologyModel.addStation(u"st2"_s, u"Hall"_s);
+    QCOMPARE(hosted.plugin.errorModel->index(0, 0).data(SystemErrorModel::TriggerDeviceNameRole),
+             QVariant(u"Station: Hall"_s));
 }
 
 // The error list
@@ -450,6 +466,7 @@ void tst_PluginSystemMonitor_Reentrancy::historyThatOthersEmptiedGrowsAgain()
     QStandardItemModel *const model = hosted.plugin.resourceModelControl->model();
     model->setData(model->index(0, 0), QVariantList(), SystemResourceModelItem::UsageListRole);
     model->setData(model->index(1, 0), QVariant(), SystemResourceModelItem::UsageListRole);
+    hosted.event(u"SystemResChanged"_s, report(20, {}));
     hosted.event(u"SystemResChanged"_s, report(10, {}));
     for (int row = 0; row < 2; ++row) {
         QCOMPARE(model->index(row, 0).data(SystemResourceModelItem::UsageListRole).toList(),
@@ -467,6 +484,21 @@ void tst_PluginSystemMonitor_Reentrancy::bareResourceRowIsFilled()
     // A row without a type counts as the CPU's.
     QCOMPARE(model->index(3, 0).data(SystemResourceModelItem::UsageListRole).toList(),
              QVariantList{10});
+}
+
+void tst_PluginSystemMonitor_Reentrancy::samplerMayBeReplacedByItsWatcher()
+{
+    HostedPlugin hosted;
+    auto monitor = QSharedPointer<SystemResourceMonitor>::create();
+    const QPointer<QObject> sampler = monitor.data();
+    hosted.plugin.setSystemResourceMonitor(monitor);
+    monitor.reset();
+    connect(&hosted.plugin, &PluginSystemMonitor::clientResourceChanged, this, [&] {
+        hosted.plugin.setSystemResourceMonitor(QSharedPointer<ISystemResourceMonitor>::create());
+    });
+    QTimerEvent tick(1);
+    QCoreApplication::sendEvent(sampler, &tick);
+    QVERIFY(!sampler);
 }
 
 // Out of turn

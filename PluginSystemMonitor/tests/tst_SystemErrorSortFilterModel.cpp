@@ -199,6 +199,10 @@ void tst_SystemErrorSortFilterModel::timesAreComparedAsWideIntegers()
     // The lower 32 bits are in the opposite order.
     ErrorList errors({{u"old"_s, 0x1'ffff'ffff}, {u"new"_s, 0x2'0000'0000}});
     QCOMPARE(View(errors).keys(), QStringList({u"new"_s, u"old"_s}));
+
+    // A comparison that cuts one side alone would keep the order of arrival, or turn it round.
+    ErrorList turned({{u"new"_s, 0x2'0000'0000}, {u"old"_s, 0x1'ffff'ffff}});
+    QCOMPARE(View(turned).keys(), QStringList({u"new"_s, u"old"_s}));
 }
 
 void tst_SystemErrorSortFilterModel::sortRoleOfTheBaseClassIsIgnored()

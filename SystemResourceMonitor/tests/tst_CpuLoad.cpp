@@ -50,6 +50,7 @@ void tst_CpuLoad::loadIsTheShareOfTicksThatWereNotIdle_data()
     QTest::newRow("busy machine") << quint64(0) << quint64(400) << 1.0F;
     QTest::newRow("a quarter") << quint64(300) << quint64(400) << 0.25F;
     QTest::newRow("a single tick") << quint64(0) << quint64(1) << 1.0F;
+    QTest::newRow("a single idle tick") << quint64(1) << quint64(1) << 0.0F;
     QTest::newRow("more idle than total") << quint64(600) << quint64(400) << -0.5F;
 }
 

@@ -2,10 +2,52 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE">
 <context>
+    <name>AccessToken</name>
+    <message>
+        <source>%1: cannot be read: %2</source>
+        <translation>%1: kann nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>%1: expected a token of %2 to %3 characters, found %4</source>
+        <translation>%1: erwartet: ein Kennwort von %2 bis %3 Zeichen, gefunden: %4</translation>
+    </message>
+    <message>
+        <source>%1: expected a token in one line without blanks</source>
+        <translation>%1: erwartet: ein Kennwort in einer Zeile ohne Leerzeichen</translation>
+    </message>
+</context>
+<context>
     <name>Catalogues</name>
     <message>
         <source>--language: expected en or de, found &quot;%1&quot;.</source>
         <translation>--language: erwartet: en oder de, gefunden: „%1“.</translation>
+    </message>
+</context>
+<context>
+    <name>ClientSession</name>
+    <message>
+        <source>message: expected text, found binary data</source>
+        <translation>Nachricht: erwartet: Text, gefunden: Binärdaten</translation>
+    </message>
+    <message>
+        <source>expected a hello within %1 seconds</source>
+        <translation>erwartet: eine Begrüßung binnen %1 Sekunden</translation>
+    </message>
+    <message>
+        <source>message: expected one hello, found another</source>
+        <translation>Nachricht: erwartet: eine einzige Begrüßung, gefunden: noch eine</translation>
+    </message>
+    <message>
+        <source>expected a token</source>
+        <translation>erwartet: ein Kennwort</translation>
+    </message>
+    <message>
+        <source>the token is wrong</source>
+        <translation>das Kennwort ist falsch</translation>
+    </message>
+    <message>
+        <source>message: expected a hello first</source>
+        <translation>Nachricht: erwartet: zuerst eine Begrüßung</translation>
     </message>
 </context>
 <context>
@@ -139,6 +181,14 @@
         <translation>%1 %</translation>
     </message>
     <message>
+        <source>%1; next try in %2 s</source>
+        <translation>%1; nächster Versuch in %2 s</translation>
+    </message>
+    <message>
+        <source>refuses this client: %1</source>
+        <translation>weist diesen Client ab: %1</translation>
+    </message>
+    <message>
         <source>picture</source>
         <translation>Bild</translation>
     </message>
@@ -245,6 +295,25 @@
     </message>
 </context>
 <context>
+    <name>Message</name>
+    <message>
+        <source>version %1</source>
+        <translation>Version %1</translation>
+    </message>
+    <message>
+        <source>message</source>
+        <translation>Nachricht</translation>
+    </message>
+    <message>
+        <source>one of %1</source>
+        <translation>eines von %1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;</source>
+        <translation>„%1“</translation>
+    </message>
+</context>
+<context>
     <name>MetricsServer</name>
     <message>
         <source>--metrics: port %1 cannot be used: %2</source>
@@ -344,6 +413,22 @@
         <translation>--%1: erwartet: eine Zahl größer als 0 und bis %2, gefunden: „%3“.</translation>
     </message>
     <message>
+        <source>Show the site of this site-server instead of one in this program. The scenario is then watch unless --scenario is given, and only what clients and their users do is taken from it; its ids are checked with --site.</source>
+        <translation>Den Standort dieses site-servers zeigen statt eines Standorts in diesem Programm. Das Szenario ist dann watch, wenn --scenario nichts anderes sagt, und nur was Clients und ihre Benutzer tun, wird ihm entnommen; seine Kennungen werden anhand von --site geprüft.</translation>
+    </message>
+    <message>
+        <source>ws://host:port</source>
+        <translation>ws://Rechner:Port</translation>
+    </message>
+    <message>
+        <source>Give that server the token that is in this file.</source>
+        <translation>Diesem Server das Kennwort nennen, das in dieser Datei steht.</translation>
+    </message>
+    <message>
+        <source>Keep the snoozes of the site in this SQLite file, for the next time. Without it they end with the program.</source>
+        <translation>Die Zurückstellungen des Standorts für das nächste Mal in dieser SQLite-Datei aufbewahren. Ohne sie enden sie mit dem Programm.</translation>
+    </message>
+    <message>
         <source>Show this QML file instead of the dashboard, with the same properties.</source>
         <translation>Diese QML-Datei statt der Übersicht zeigen, mit denselben Eigenschaften.</translation>
     </message>
@@ -352,8 +437,16 @@
         <translation>--page: erwartet: eine QML-Datei, gefunden: „%1“.</translation>
     </message>
     <message>
-        <source>Without a window: end with exit code 0 although errors are listed in the end.</source>
-        <translation>Ohne Fenster: mit dem Rückgabewert 0 enden, auch wenn am Ende Fehler in der Liste stehen.</translation>
+        <source>--token-file: expected --server URL as well.</source>
+        <translation>--token-file: erwartet: auch --server URL.</translation>
+    </message>
+    <message>
+        <source>--server: expected an address such as ws://127.0.0.1:8765, found &quot;%1&quot;.</source>
+        <translation>--server: erwartet: eine Adresse wie ws://127.0.0.1:8765, gefunden: „%1“.</translation>
+    </message>
+    <message>
+        <source>--%1: expected without --server.</source>
+        <translation>--%1: erwartet: nur ohne --server.</translation>
     </message>
     <message>
         <source>Without a window: print text, or json with one object a line for programs.</source>
@@ -364,8 +457,8 @@
         <translation>Name</translation>
     </message>
     <message>
-        <source>--format: expected text or json, found &quot;%1&quot;.</source>
-        <translation>--format: erwartet: text oder json, gefunden: „%1“.</translation>
+        <source>Without a window: end with exit code 0 although errors are listed in the end.</source>
+        <translation>Ohne Fenster: mit dem Rückgabewert 0 enden, auch wenn am Ende Fehler in der Liste stehen.</translation>
     </message>
     <message>
         <source>Offer figures for monitoring, as OpenMetrics text at http://127.0.0.1:PORT/metrics. With 0 a free port is chosen. The address is printed on standard error.</source>
@@ -376,16 +469,16 @@
         <translation>Port</translation>
     </message>
     <message>
-        <source>--metrics: expected a port from 0 to 65535, found &quot;%1&quot;.</source>
-        <translation>--metrics: erwartet: ein Port von 0 bis 65535, gefunden: „%1“.</translation>
-    </message>
-    <message>
         <source>What is shown:</source>
         <translation>Was gezeigt wird:</translation>
     </message>
     <message>
-        <source>Pictures and logs:</source>
-        <translation>Bilder und Protokolle:</translation>
+        <source>Site server:</source>
+        <translation>Standort-Server:</translation>
+    </message>
+    <message>
+        <source>Files that are written:</source>
+        <translation>Dateien, die geschrieben werden:</translation>
     </message>
     <message>
         <source>For scripts and monitoring:</source>
@@ -402,6 +495,16 @@
 </translation>
     </message>
     <message>
+        <source>Runs the system-monitor plug-in in a stand-in for its host: with a site of
+recording stations and cameras, a scenario of what happens there, and this
+machine&apos;s own load.
+</source>
+        <translation>Führt das Plug-in zur Systemüberwachung in einem Ersatz für sein
+Wirtsprogramm aus: mit einem Standort aus Aufzeichnungsstationen und Kameras,
+einem Szenario der Ereignisse und der Auslastung dieses Rechners.
+</translation>
+    </message>
+    <message>
         <source>Examples:
   workbench
       show the dashboard with the bundled site and scenario
@@ -409,6 +512,8 @@
       print every kind of happening, six times as fast
   workbench --headless --screenshot picture.png
       save a picture of the dashboard as well
+  workbench --server ws://127.0.0.1:8765
+      show the site of a site-server
   workbench --headless --format json --ignore-errors
       print one JSON object a line for a program to read
 </source>
@@ -419,6 +524,8 @@
       jede Art von Ereignis ausgeben, sechsmal so schnell
   workbench --headless --screenshot bild.png
       auch ein Bild der Übersicht speichern
+  workbench --server ws://127.0.0.1:8765
+      den Standort eines site-server zeigen
   workbench --headless --format json --ignore-errors
       ein JSON-Objekt je Zeile ausgeben, für ein Programm
 </translation>
@@ -438,14 +545,12 @@
 </translation>
     </message>
     <message>
-        <source>Runs the system-monitor plug-in in a stand-in for its host: with a site of
-recording stations and cameras, a scenario of what happens there, and this
-machine&apos;s own load.
-</source>
-        <translation>Führt das Plug-in zur Systemüberwachung in einem Ersatz für sein
-Wirtsprogramm aus: mit einem Standort aus Aufzeichnungsstationen und Kameras,
-einem Szenario der Ereignisse und der Auslastung dieses Rechners.
-</translation>
+        <source>--format: expected text or json, found &quot;%1&quot;.</source>
+        <translation>--format: erwartet: text oder json, gefunden: „%1“.</translation>
+    </message>
+    <message>
+        <source>--metrics: expected a port from 0 to 65535, found &quot;%1&quot;.</source>
+        <translation>--metrics: erwartet: ein Port von 0 bis 65535, gefunden: „%1“.</translation>
     </message>
 </context>
 <context>
@@ -490,6 +595,21 @@ einem Szenario der Ereignisse und der Auslastung dieses Rechners.
     </message>
 </context>
 <context>
+    <name>RemoteServerLink</name>
+    <message>
+        <source>the server does not answer</source>
+        <translation>der Server antwortet nicht</translation>
+    </message>
+    <message>
+        <source>the server has closed the connection</source>
+        <translation>der Server hat die Verbindung beendet</translation>
+    </message>
+    <message>
+        <source>expected a welcome first</source>
+        <translation>erwartet: zuerst ein Willkommen</translation>
+    </message>
+</context>
+<context>
     <name>ScenarioFile</name>
     <message>
         <source>one of %1</source>
@@ -525,6 +645,78 @@ einem Szenario der Ereignisse und der Auslastung dieses Rechners.
     </message>
 </context>
 <context>
+    <name>ServerGate</name>
+    <message>
+        <source>the server has %1 clients already</source>
+        <translation>der Server hat bereits %1 Clients</translation>
+    </message>
+</context>
+<context>
+    <name>ServerOptions</name>
+    <message>
+        <source>The site: a JSON file, or the name of a bundled one (default).</source>
+        <translation>Der Standort: eine JSON-Datei oder der Name eines mitgelieferten (default).</translation>
+    </message>
+    <message>
+        <source>file</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Let happen at the site what a scenario tells: a JSON file, or the name of a bundled one (default, everything). What it tells of clients and their users is left out. Without this nothing happens but what clients ask for.</source>
+        <translation>Am Standort geschehen lassen, was ein Szenario erzählt: eine JSON-Datei oder der Name eines mitgelieferten (default, everything). Was es von Clients und ihren Benutzern erzählt, bleibt weg. Ohne dies geschieht nur, worum Clients bitten.</translation>
+    </message>
+    <message>
+        <source>Keep the snoozes in this SQLite file, so that they outlive the server. Without it they end with the server.</source>
+        <translation>Die Zurückstellungen in dieser SQLite-Datei aufbewahren, sodass sie den Server überdauern. Ohne sie enden sie mit dem Server.</translation>
+    </message>
+    <message>
+        <source>Where clients connect: an address of this machine and a port, 0 for any free one. Other than on a loopback address, this needs --token-file.</source>
+        <translation>Wohin sich Clients verbinden: eine Adresse dieses Rechners und ein Port, 0 für irgendeinen freien. Außer bei einer Loopback-Adresse ist dazu --token-file nötig.</translation>
+    </message>
+    <message>
+        <source>address:port</source>
+        <translation>Adresse:Port</translation>
+    </message>
+    <message>
+        <source>Turn away clients that do not give the token that is in this file: 16 to 1024 characters in one line. It travels as it is; see docs/site-protocol.md for encryption.</source>
+        <translation>Clients abweisen, die nicht das Kennwort nennen, das in dieser Datei steht: 16 bis 1024 Zeichen in einer Zeile. Es wird unverschlüsselt übertragen; zur Verschlüsselung siehe docs/site-protocol.md.</translation>
+    </message>
+    <message>
+        <source>Print this help.</source>
+        <translation>Diese Hilfe ausgeben.</translation>
+    </message>
+    <message>
+        <source>Print the version.</source>
+        <translation>Die Version ausgeben.</translation>
+    </message>
+    <message>
+        <source>Serves a simulated video-surveillance site to Workbenches: the states of its stations, cameras, volumes and recordings, and the snoozes, which all its clients share. It runs until it is ended.
+
+  site-server --store snoozes.sqlite          serve the bundled site on this machine
+  workbench --server ws://127.0.0.1:8765      show it, in another terminal
+
+Exit codes: 1 the work could not be done, 2 an option or a file is wrong.</source>
+        <translation>Stellt Workbenches einen simulierten Standort der Videoüberwachung bereit: die Zustände seiner Stationen, Kameras, Volumes und Aufzeichnungen und die Zurückstellungen, die alle Clients teilen. Läuft, bis es beendet wird.
+
+  site-server --store snoozes.sqlite          den mitgelieferten Standort auf diesem Rechner bereitstellen
+  workbench --server ws://127.0.0.1:8765      ihn zeigen, in einem anderen Terminal
+
+Rückgabewerte: 1 die Arbeit war nicht möglich, 2 eine Option oder eine Datei ist falsch.</translation>
+    </message>
+    <message>
+        <source>Expected options only, found &quot;%1&quot;.</source>
+        <translation>Erwartet: nur Optionen, gefunden: „%1“.</translation>
+    </message>
+    <message>
+        <source>--listen: expected an address and a port, such as 127.0.0.1:8765 or [::1]:8765, found &quot;%1&quot;.</source>
+        <translation>--listen: erwartet: eine Adresse und ein Port wie 127.0.0.1:8765 oder [::1]:8765, gefunden: „%1“.</translation>
+    </message>
+    <message>
+        <source>--listen: expected --token-file FILE as well, since %1 can be reached from other machines.</source>
+        <translation>--listen: erwartet: auch --token-file FILE, weil %1 von anderen Rechnern aus erreichbar ist.</translation>
+    </message>
+</context>
+<context>
     <name>SiteFile</name>
     <message>
         <source>an id without &quot;/&quot;</source>
@@ -548,6 +740,29 @@ einem Szenario der Ereignisse und der Auslastung dieses Rechners.
     </message>
 </context>
 <context>
+    <name>SnoozeStore</name>
+    <message>
+        <source>the file is damaged: %1</source>
+        <translation>die Datei ist beschädigt: %1</translation>
+    </message>
+    <message>
+        <source>an SQLite file of another kind</source>
+        <translation>eine SQLite-Datei anderer Art</translation>
+    </message>
+    <message>
+        <source>a file of version %1</source>
+        <translation>eine Datei der Version %1</translation>
+    </message>
+    <message>
+        <source>%1: expected a file of snoozes that can be written, found: %2</source>
+        <translation>%1: erwartet: eine beschreibbare Datei mit Zurückstellungen, gefunden: %2</translation>
+    </message>
+    <message>
+        <source>%1: cannot be written: %2</source>
+        <translation>%1: kann nicht geschrieben werden: %2</translation>
+    </message>
+</context>
+<context>
     <name>WindowRun</name>
     <message>
         <source>%1 cannot be written</source>
@@ -557,6 +772,10 @@ einem Szenario der Ereignisse und der Auslastung dieses Rechners.
         <source>Picture saved as %1</source>
         <translation>Bild gespeichert als %1</translation>
     </message>
+    <message>
+        <source>The server refuses this client: %1</source>
+        <translation>Der Server weist diesen Client ab: %1</translation>
+    </message>
 </context>
 <context>
     <name>main</name>
@@ -565,12 +784,23 @@ einem Szenario der Ereignisse und der Auslastung dieses Rechners.
         <translation>--loop: erwartet: ein Fenster.</translation>
     </message>
     <message>
+        <source>Metrics are at %1</source>
+        <translation>Kennzahlen stehen unter %1</translation>
+    </message>
+    <message>
         <source>--format: expected --headless as well.</source>
         <translation>--format: erwartet: auch --headless.</translation>
     </message>
+</context>
+<context>
+    <name>site-server</name>
     <message>
-        <source>Metrics are at %1</source>
-        <translation>Kennzahlen stehen unter %1</translation>
+        <source>--listen: %1, port %2: %3</source>
+        <translation>--listen: %1, Port %2: %3</translation>
+    </message>
+    <message>
+        <source>listening on %1</source>
+        <translation>wartet auf Verbindungen an %1</translation>
     </message>
 </context>
 </TS>

@@ -75,6 +75,18 @@ void ConsoleReport::writeConnection(bool isOpen)
     writeLine(tr("server"), isOpen ? tr("connected") : tr("connection lost"));
 }
 
+void ConsoleReport::writeFailedAttempt(const QString &reason, qint64 pauseMs)
+{
+    writeLine(tr("server"),
+              tr("%1; next try in %2 s")
+                  .arg(reason, QLocale().toString(static_cast<double>(pauseMs) / 1000.0, 'f', 1)));
+}
+
+void ConsoleReport::writeRefusal(const QString &reason)
+{
+    writeLine(tr("server"), tr("refuses this client: %1").arg(reason));
+}
+
 void ConsoleReport::writeStates(bool success)
 {
     writeLine(tr("states"), success ? tr("the states of all nodes were retrieved")

@@ -1,6 +1,7 @@
 #include "Framework.h"
 
 #include "PluginBase.h"
+#include "ServerNames.h"
 #include "SiteServer.h"
 
 #include <utility>
@@ -22,10 +23,10 @@ void Framework::registerPlugin(const QString &pluginId, QObject *plugin)
 
 void Framework::answerCommands()
 {
-    while (!m_commands.empty()) {
-        const Command command = m_commands.front();
-        m_commands.pop_front();
-        answer(command);
+    executeCommands();
+    while (!m_executed.empty()) {
+        const auto &[number, command] = *m_executed.begin();
+        answer(number, {ServerNames::FrameworkInternalError, command.data});
     }
 }
 
@@ -36,7 +37,7 @@ bool Framework::SendCommand(void *handle, const QString &senderID, const QString
     if (handle != this->handle() || !qobject_cast<PluginBase *>(plugin(senderID)))
         return false;
     m_commands.push_back({senderID, command, data, context, target});
-    QMetaObject::invokeMethod(this, &Framework::answerCommands, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(this, &Framework::executeCommands, Qt::QueuedConnection);
     return true;
 }
 
@@ -65,10 +66,34 @@ QObject *Framework::plugin(const QString &pluginId) const
     return m_plugins.value(pluginId);
 }
 
-void Framework::answer(const Command &command)
+void Framework::executeCommands()
+{
+    while (!m_commands.empty()) {
+        const Command command = m_commands.front();
+        m_commands.pop_front();
+        execute(command);
+    }
+}
+
+// An answer that comes late may find its command answered, or the framework gone.
+void Framework::execute(const Command &command)
 {
     Q_EMIT commandStarted(command.name, command.data, command.target);
-    const CommandResult result = m_execute(command.name, command.data, command.target);
+    const int number = ++m_lastNumber;
+    m_executed.emplace(number, command);
+    m_execute(command.name, command.data, command.target,
+              [self = QPointer<Framework>(this), number](const CommandResult &result) {
+                  if (self)
+                      self->answer(number, result);
+              });
+}
+
+void Framework::answer(int number, const CommandResult &result)
+{
+    const auto node = m_executed.extract(number);
+    if (!node)
+        return;
+    const Command &command = node.mapped();
     Q_EMIT commandExecuted(command.name, command.data, command.target, result.code);
     if (const auto sender = qobject_cast<PluginBase *>(plugin(command.senderId)))
         sender->CommandProcessor(command.name, result.data, command.context, result.code, {}, false,

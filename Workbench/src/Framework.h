@@ -10,6 +10,7 @@
 
 #include <deque>
 #include <functional>
+#include <map>
 
 struct CommandResult;
 
@@ -20,10 +21,12 @@ class Framework : public QObject, public FrameworkWrapperBase
     Q_OBJECT
 
 public:
-    using Executor = std::function<CommandResult(const QString &command, const QVariant &data,
-                                                 const QString &target)>;
+    /// Hears the result of a command.
+    using Answer = std::function<void(const CommandResult &)>;
+    using Executor = std::function<void(const QString &command, const QVariant &data,
+                                        const QString &target, const Answer &answer)>;
 
-    /// @param execute carries out a command at the server
+    /// @param execute has the server carry out a command; the answer may come later
     explicit Framework(Executor execute, QObject *parent = nullptr);
 
     /// What plug-ins pass as the first argument of every call. Calls with another are refused.
@@ -33,7 +36,8 @@ public:
     /// owner's; once it is gone the id is unknown again.
     void registerPlugin(const QString &pluginId, QObject *plugin);
 
-    /// Answers the accepted commands that have not been answered yet.
+    /// Answers the accepted commands that have not been answered yet: those for which the server
+    /// takes its time with ServerNames::FrameworkInternalError.
     void answerCommands();
 
     bool SendCommand(void *handle, const QString &senderID, const QString &command,
@@ -62,11 +66,15 @@ private:
     };
 
     QObject *plugin(const QString &pluginId) const;
-    void answer(const Command &command);
+    void executeCommands();
+    void execute(const Command &command);
+    void answer(int number, const CommandResult &result);
 
     Executor m_execute;
     QHash<QString, QPointer<QObject>> m_plugins; // by id
-    std::deque<Command> m_commands;              // accepted, in order, not yet answered
+    std::deque<Command> m_commands;              // accepted, in order, not yet executed
+    std::map<int, Command> m_executed;           // by number, not yet answered
+    int m_lastNumber = 0;
 };
 
 #endif

@@ -2,6 +2,7 @@
 
 #include "RunReport.h"
 #include "Screenshot.h"
+#include "ServerLink.h"
 #include "Workbench.h"
 
 #include <QCoreApplication>
@@ -18,6 +19,10 @@ HeadlessRun::HeadlessRun(Workbench &workbench, RunReport &report, Screenshot *sc
             &HeadlessRun::takeScreenshot);
     connect(&workbench.driver(), &ScenarioDriver::finished, &m_quiet, &QuietPeriod::start);
     connect(&m_quiet, &QuietPeriod::reached, this, &HeadlessRun::end);
+    connect(&workbench.link(), &ServerLink::refused, this, [this] {
+        m_exitCode = ExitCode::Failure;
+        end();
+    });
 }
 
 int HeadlessRun::exec()

@@ -56,16 +56,20 @@ JsonObject JsonObject::fromFile(const QString &fileName)
     QFile file(fileName);
     if (!file.open(QIODevice::ReadOnly))
         throw InputError(tr("%1: cannot be read: %2").arg(fileName, file.errorString()));
-    const QByteArray text = file.readAll();
+    return fromText(fileName, file.readAll());
+}
+
+JsonObject JsonObject::fromText(const QString &name, const QByteArray &text)
+{
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(text, &error);
     if (error.error != QJsonParseError::NoError)
         throw InputError(
             tr("%1: line %2: expected valid JSON, found: %3")
-                .arg(fileName, QString::number(lineOf(text, error.offset)), error.errorString()));
+                .arg(name, QString::number(lineOf(text, error.offset)), error.errorString()));
     if (!document.isObject())
-        throw InputError(tr("%1: line 1: expected an object, found a list").arg(fileName));
-    return {fileName, {}, document.object()};
+        throw InputError(tr("%1: line 1: expected an object, found a list").arg(name));
+    return {name, {}, document.object()};
 }
 
 bool JsonObject::has(const QString &key)

@@ -9,8 +9,9 @@
 
 #include <vector>
 
-/// An object of a JSON file that is read strictly: it knows its place in the file, and everything
-/// that is not as expected throws an InputError that names file, key and what was expected.
+/// An object of a JSON file or message that is read strictly: it knows its place there, and
+/// everything that is not as expected throws an InputError that names file, key and what was
+/// expected.
 ///
 /// Read all keys that may occur, then call expectNoMore().
 class JsonObject
@@ -20,6 +21,11 @@ class JsonObject
 public:
     /// Reads a file whose outermost value is an object.
     static JsonObject fromFile(const QString &fileName);
+
+    /// Reads a text whose outermost value is an object.
+    ///
+    /// @param name stands in messages where a file's name would
+    static JsonObject fromText(const QString &name, const QByteArray &text);
 
     bool has(const QString &key);
 
@@ -37,6 +43,9 @@ public:
     int wholeNumber(const QString &key, int least, int greatest);
 
     JsonObject object(const QString &key);
+
+    /// Whatever there is; undefined when the key is missing.
+    QJsonValue value(const QString &key) { return take(key); }
 
     /// The objects of a list; none when the key is missing.
     std::vector<JsonObject> objects(const QString &key);

@@ -107,6 +107,17 @@ void JsonReport::writeConnection(bool isOpen)
     write(QStringLiteral("connection"), {{QStringLiteral("connected"), isOpen}});
 }
 
+void JsonReport::writeFailedAttempt(const QString &reason, qint64 pauseMs)
+{
+    write(QStringLiteral("attemptFailed"),
+          {{QStringLiteral("reason"), reason}, {QStringLiteral("pauseMs"), pauseMs}});
+}
+
+void JsonReport::writeRefusal(const QString &reason)
+{
+    write(QStringLiteral("refused"), {{QStringLiteral("reason"), reason}});
+}
+
 void JsonReport::writeStates(bool success)
 {
     write(QStringLiteral("states"), {{QStringLiteral("success"), success}});

@@ -29,6 +29,8 @@ private:
     void write(const QString &event, QJsonObject object);
     void writeError(ErrorChange change, const ListedError &error) override;
     void writeConnection(bool isOpen) override;
+    void writeFailedAttempt(const QString &reason, qint64 pauseMs) override;
+    void writeRefusal(const QString &reason) override;
     void writeStates(bool success) override;
     void writeCapacity(const QString &serverName, double percentage) override;
     void writeSnooze(const SnoozeAnswer &answer) override;

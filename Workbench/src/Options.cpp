@@ -1,5 +1,6 @@
 #include "Options.h"
 
+#include "BundledFile.h"
 #include "HelpText.h"
 #include "InputError.h"
 
@@ -27,10 +28,11 @@ public:
 
 private:
     QList<OptionGroup> optionGroups() const;
+    void readServer(Options &options) const;
+    void expectWithoutServer(const QCommandLineOption &option) const;
     double number(const QCommandLineOption &option, double greatest) const;
     ReportFormat format() const;
     quint16 metricsPort() const;
-    QString bundledOrFile(const QCommandLineOption &option, const QString &folder) const;
 
     const QCommandLineOption m_headless{
         QStringLiteral("headless"),
@@ -89,6 +91,20 @@ private:
         QStringLiteral("plugin"),
         tr("Load this plug-in file instead of the one that was built with this program."),
         tr("file")};
+    const QCommandLineOption m_server{
+        QStringLiteral("server"),
+        tr("Show the site of this site-server instead of one in this program. The scenario is then "
+           "watch unless --scenario is given, and only what clients and their users do is taken "
+           "from it; its ids are checked with --site."),
+        tr("ws://host:port")};
+    const QCommandLineOption m_token{QStringLiteral("token-file"),
+                                     tr("Give that server the token that is in this file."),
+                                     tr("file")};
+    const QCommandLineOption m_store{
+        QStringLiteral("store"),
+        tr("Keep the snoozes of the site in this SQLite file, for the next time. Without it they "
+           "end with the program."),
+        tr("file")};
     const QCommandLineOption m_help{{QStringLiteral("h"), QStringLiteral("help")},
                                     tr("Print this help.")};
     const QCommandLineOption m_version{{QStringLiteral("v"), QStringLiteral("version")},
@@ -106,7 +122,8 @@ OptionParser::OptionParser()
 QList<OptionGroup> OptionParser::optionGroups() const
 {
     return {{tr("What is shown:"), {m_site, m_scenario, m_speed, m_loop, m_page, m_language}},
-            {tr("Pictures and logs:"), {m_screenshot, m_screenshotAt, m_log}},
+            {tr("Site server:"), {m_server, m_token}},
+            {tr("Files that are written:"), {m_screenshot, m_screenshotAt, m_log, m_store}},
             {tr("For scripts and monitoring:"), {m_headless, m_format, m_ignoreErrors, m_metrics}},
             {tr("Others:"), {m_plugin, m_help, m_version}}};
 }
@@ -127,8 +144,11 @@ Options OptionParser::parse(const QStringList &arguments)
         options.metricsPort = metricsPort();
     options.isLooped = m_parser.isSet(m_loop);
     options.ignoresErrors = m_parser.isSet(m_ignoreErrors);
-    options.siteFile = bundledOrFile(m_site, QStringLiteral("sites"));
-    options.scenarioFile = bundledOrFile(m_scenario, QStringLiteral("scenarios"));
+    options.siteFile = bundledOrFile(QStringLiteral("sites"), m_parser.value(m_site));
+    const bool onlyWatches = m_parser.isSet(m_server) && !m_parser.isSet(m_scenario);
+    options.scenarioFile =
+        bundledOrFile(QStringLiteral("scenarios"),
+                      onlyWatches ? QStringLiteral("watch") : m_parser.value(m_scenario));
     options.pluginFile = m_parser.value(m_plugin);
     options.pageFile = m_parser.value(m_page);
     if (m_parser.isSet(m_page) && !QFileInfo(options.pageFile).isFile())
@@ -142,7 +162,36 @@ Options OptionParser::parse(const QStringList &arguments)
         options.screenshotAtMs = std::llround(number(m_screenshotAt, MaxSeconds) * 1000.0);
     if (m_parser.isSet(m_log))
         options.logFile = m_parser.value(m_log);
+    options.storeFile = m_parser.value(m_store);
+    readServer(options);
     return options;
+}
+
+void OptionParser::readServer(Options &options) const
+{
+    options.tokenFile = m_parser.value(m_token);
+    if (!m_parser.isSet(m_server)) {
+        if (!options.tokenFile.isEmpty())
+            throw InputError(tr("--token-file: expected --server URL as well."));
+        return;
+    }
+    const QString text = m_parser.value(m_server);
+    options.serverUrl = QUrl(text, QUrl::StrictMode);
+    const QStringList schemes{QStringLiteral("ws"), QStringLiteral("wss")};
+    if (!options.serverUrl.isValid() || !schemes.contains(options.serverUrl.scheme())
+        || options.serverUrl.host().isEmpty())
+        throw InputError(
+            tr("--server: expected an address such as ws://127.0.0.1:8765, found \"%1\".")
+                .arg(text));
+    expectWithoutServer(m_store);
+    expectWithoutServer(m_speed);
+}
+
+// The snoozes and the clock are that server's.
+void OptionParser::expectWithoutServer(const QCommandLineOption &option) const
+{
+    if (m_parser.isSet(option))
+        throw InputError(tr("--%1: expected without --server.").arg(option.names().constFirst()));
 }
 
 QString OptionParser::help() const
@@ -162,6 +211,8 @@ QString OptionParser::help() const
                        "      print every kind of happening, six times as fast\n"
                        "  workbench --headless --screenshot picture.png\n"
                        "      save a picture of the dashboard as well\n"
+                       "  workbench --server ws://127.0.0.1:8765\n"
+                       "      show the site of a site-server\n"
                        "  workbench --headless --format json --ignore-errors\n"
                        "      print one JSON object a line for a program to read\n"));
     sections.append(tr("Exit codes:\n"
@@ -203,13 +254,6 @@ quint16 OptionParser::metricsPort() const
     if (!isPort)
         throw InputError(tr("--metrics: expected a port from 0 to 65535, found \"%1\".").arg(text));
     return port;
-}
-
-QString OptionParser::bundledOrFile(const QCommandLineOption &option, const QString &folder) const
-{
-    const QString value = m_parser.value(option);
-    const QString bundled = QStringLiteral(":/workbench/%1/%2.json").arg(folder, value);
-    return !QFileInfo::exists(value) && QFileInfo::exists(bundled) ? bundled : value;
 }
 
 } // namespace

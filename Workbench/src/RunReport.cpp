@@ -64,6 +64,10 @@ void RunReport::followServer(Workbench &workbench)
     const ServerLink &link = workbench.link();
     connect(&link, &ServerLink::opened, this, [this] { writeConnection(true); });
     connect(&link, &ServerLink::closed, this, [this] { writeConnection(false); });
+    connect(&link, &ServerLink::attemptFailed, this,
+            [this](const QString &reason, qint64 pauseMs) { writeFailedAttempt(reason, pauseMs); });
+    connect(&link, &ServerLink::refused, this,
+            [this](const QString &reason) { writeRefusal(reason); });
     connect(&workbench, &Workbench::eventArrived, this, &RunReport::noticeEvent);
     connect(&workbench.topology(), &TopologyPlugin::camStatusRetrievedChanged, this,
             [this](bool success) { writeStates(success); });

@@ -55,6 +55,10 @@ protected:
 private:
     virtual void writeError(ErrorChange change, const ListedError &error) = 0;
     virtual void writeConnection(bool isOpen) = 0;
+    /// There is no connection, and the next try is after a pause.
+    virtual void writeFailedAttempt(const QString &reason, qint64 pauseMs) = 0;
+    /// The server does not want this client.
+    virtual void writeRefusal(const QString &reason) = 0;
     /// @param success whether the client has learnt the states of all nodes
     virtual void writeStates(bool success) = 0;
     /// @param percentage how much of a server's capacity is used

@@ -3,6 +3,7 @@
 #include "Clock.h"
 #include "PluginSurface.h"
 #include "ServerLink.h"
+#include "SiteActor.h"
 #include "TopologyPlugin.h"
 
 namespace {
@@ -22,27 +23,9 @@ ScenarioActor::ScenarioActor(const Stage &stage)
 
 void ScenarioActor::perform(const AnyScenarioAction &action)
 {
+    if (m_stage.site)
+        m_stage.site->perform(action);
     std::visit([this](const auto &one) { act(one); }, action);
-}
-
-void ScenarioActor::act(const ScenarioAction::SetCameraConnected &action)
-{
-    m_stage.server.setCameraConnected(action.cameraId, action.connected);
-}
-
-void ScenarioActor::act(const ScenarioAction::SetStationConnected &action)
-{
-    m_stage.server.setStationConnected(action.stationId, action.connected);
-}
-
-void ScenarioActor::act(const ScenarioAction::RemoveCamera &action)
-{
-    m_stage.server.removeCamera(action.cameraId);
-}
-
-void ScenarioActor::act(const ScenarioAction::RemoveStation &action)
-{
-    m_stage.server.removeStation(action.stationId);
 }
 
 void ScenarioActor::act(const ScenarioAction::RetrieveStates &action)
@@ -56,31 +39,6 @@ void ScenarioActor::act(const ScenarioAction::SetServerConnected &action)
         m_stage.link.open();
     else
         m_stage.link.close();
-}
-
-void ScenarioActor::act(const ScenarioAction::SetResources &action)
-{
-    m_stage.server.setResources(action.stationId, action.level);
-}
-
-void ScenarioActor::act(const ScenarioAction::SetVolumeConnected &action)
-{
-    m_stage.server.setVolumeConnected(action.stationId, action.volumeId, action.connected);
-}
-
-void ScenarioActor::act(const ScenarioAction::SetRecordedDays &action)
-{
-    m_stage.server.setRecordedDays(action.stationId, action.groupId, action.days);
-}
-
-void ScenarioActor::act(const ScenarioAction::RenameRecordingGroup &action)
-{
-    m_stage.server.renameRecordingGroup(action.stationId, action.groupId, action.name);
-}
-
-void ScenarioActor::act(const ScenarioAction::ReportReachingLimit &action)
-{
-    m_stage.server.reportReachingLimit(action.serverName, action.percentage);
 }
 
 void ScenarioActor::act(const ScenarioAction::Snooze &action)

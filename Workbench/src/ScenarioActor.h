@@ -6,18 +6,19 @@
 class Clock;
 class PluginSurface;
 class ServerLink;
-class SiteServer;
+class SiteActor;
 class TopologyPlugin;
 
-/// Performs the actions of a scenario: those of the site at its server, those of the client at the
-/// link and the topology, and those of the user at the plug-in.
+/// Performs the actions of a scenario: those of the client at the link and the topology, and those
+/// of the user at the plug-in. Those of the site are left to a SiteActor, where the site's server
+/// is in this process; without one they happen elsewhere, if at all.
 class ScenarioActor
 {
 public:
     /// Whom the actions are done to. All must outlive the actor.
     struct Stage
     {
-        SiteServer &server;
+        SiteActor *site; ///< or null
         ServerLink &link;
         TopologyPlugin &topology;
         PluginSurface &surface;
@@ -29,17 +30,9 @@ public:
     void perform(const AnyScenarioAction &action);
 
 private:
-    void act(const ScenarioAction::SetCameraConnected &action);
-    void act(const ScenarioAction::SetStationConnected &action);
-    void act(const ScenarioAction::RemoveCamera &action);
-    void act(const ScenarioAction::RemoveStation &action);
+    template <typename SiteAction> void act(const SiteAction &) { }
     void act(const ScenarioAction::RetrieveStates &action);
     void act(const ScenarioAction::SetServerConnected &action);
-    void act(const ScenarioAction::SetResources &action);
-    void act(const ScenarioAction::SetVolumeConnected &action);
-    void act(const ScenarioAction::SetRecordedDays &action);
-    void act(const ScenarioAction::RenameRecordingGroup &action);
-    void act(const ScenarioAction::ReportReachingLimit &action);
     void act(const ScenarioAction::Snooze &action);
     void act(const ScenarioAction::ReconnectCameras &action);
     void act(const ScenarioAction::ReconnectSubstations &action);

@@ -1,40 +1,17 @@
 #include "ServerLink.h"
 
-#include "ServerNames.h"
-
-ServerLink::ServerLink(SiteServer &server, QObject *parent)
+ServerLink::ServerLink(QObject *parent)
     : QObject(parent)
-    , m_server(server)
 { }
 
-void ServerLink::open()
+void ServerLink::setOpen(bool isOpen)
 {
-    if (m_isOpen)
+    if (isOpen == m_isOpen)
         return;
-    connect(&m_server, &SiteServer::nodeStatusChanged, this, &ServerLink::nodeStatusChanged);
-    connect(&m_server, &SiteServer::cameraRemoved, this, &ServerLink::cameraRemoved);
-    connect(&m_server, &SiteServer::stationRemoved, this, &ServerLink::stationRemoved);
-    connect(&m_server, &SiteServer::storageChanged, this, &ServerLink::storageChanged);
-    connect(&m_server, &SiteServer::eventRaised, this, &ServerLink::eventRaised);
-    m_isOpen = true;
+    m_isOpen = isOpen;
     m_since = QDateTime::currentDateTime();
-    Q_EMIT opened();
-}
-
-void ServerLink::close()
-{
-    if (!m_isOpen)
-        return;
-    disconnect(&m_server, nullptr, this, nullptr);
-    m_isOpen = false;
-    m_since = QDateTime::currentDateTime();
-    Q_EMIT closed();
-}
-
-CommandResult ServerLink::execute(const QString &command, const QVariant &data,
-                                  const QString &target)
-{
-    if (!m_isOpen)
-        return {ServerNames::FrameworkInternalError, data};
-    return m_server.execute(command, data, target);
+    if (isOpen)
+        Q_EMIT opened();
+    else
+        Q_EMIT closed();
 }

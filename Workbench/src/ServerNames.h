@@ -48,6 +48,7 @@ inline const QString Success = QStringLiteral("0");
 inline const QString InvalidArgument = QStringLiteral("InvalidArgument");
 inline const QString UnknownNode = QStringLiteral("UnknownNode");
 inline const QString UnknownCommand = QStringLiteral("UnknownCommand");
+inline const QString StoreFailed = QStringLiteral("StoreFailed");
 /// What a client sees when a command could not be carried out at all.
 inline const QString FrameworkInternalError =
     QStringLiteral("{2C85B19D-AE6F-45D9-B8FE-DC436FCBEABE}FrameworkInternalError");

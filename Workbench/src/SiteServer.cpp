@@ -14,11 +14,13 @@ constexpr qint64 ReportIntervalMs = 1000;
 
 } // namespace
 
-SiteServer::SiteServer(Site site, Clock &clock, QObject *parent)
+SiteServer::SiteServer(Site site, Clock &clock, SnoozeStore *store, QObject *parent)
     : QObject(parent)
     , m_clock(clock)
+    , m_store(store)
     , m_site(std::move(site))
 {
+    loadSnoozes();
     m_clock.callAt(m_clock.nowMs() + ReportIntervalMs, this, [this] { reportAll(); });
 }
 
@@ -30,7 +32,7 @@ std::vector<Snooze> SiteServer::snoozes() const
 void SiteServer::reset(Site site)
 {
     m_site = std::move(site);
-    m_snoozes.clear();
+    loadSnoozes();
     // Events of the former site that are still on their way.
     QCoreApplication::removePostedEvents(this, QEvent::MetaCall);
 }
@@ -64,7 +66,7 @@ bool SiteServer::removeCamera(const QString &cameraId)
     if (!m_site.removeCamera(cameraId))
         return false;
     Q_EMIT cameraRemoved(cameraId);
-    dropSnooze(cameraId);
+    dropSnoozes({cameraId});
     return true;
 }
 
@@ -83,8 +85,7 @@ bool SiteServer::removeStation(const QString &stationId)
     });
     m_site.removeStation(stationId);
     Q_EMIT stationRemoved(stationId);
-    for (const QString &nodeId : std::as_const(gone))
-        dropSnooze(nodeId);
+    dropSnoozes(gone);
     return true;
 }
 

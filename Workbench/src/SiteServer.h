@@ -8,6 +8,7 @@
 #include <QVariant>
 
 class Clock;
+class SnoozeStore;
 
 /// A server's answer to a command.
 struct CommandResult
@@ -26,15 +27,17 @@ class SiteServer : public QObject
     Q_OBJECT
 
 public:
-    /// @param clock decides when snoozes end; it must outlive the server
-    SiteServer(Site site, Clock &clock, QObject *parent = nullptr);
+    /// @param clock decides when snoozes end
+    /// @param store keeps the snoozes, those that it holds already are taken up; without one they
+    ///              end with the server. Both must outlive the server
+    SiteServer(Site site, Clock &clock, SnoozeStore *store = nullptr, QObject *parent = nullptr);
 
     const Site &site() const { return m_site; }
 
     /// The snoozes in force. An event is raised whenever they change.
     std::vector<Snooze> snoozes() const;
 
-    /// Starts anew with a site as given and without snoozes.
+    /// Starts anew with a site as given, and with no snoozes but those of the store.
     void reset(Site site);
 
     // What happens at the site. Each returns false, and nothing happens, when there is no such
@@ -60,7 +63,8 @@ public:
     /// Warns the clients that a server is near its capacity, in percent.
     void reportReachingLimit(const QString &serverName, double percentage);
 
-    /// Carries out a command of a client. An unknown command yields ServerNames::UnknownCommand.
+    /// Carries out a command of a client. An unknown command yields ServerNames::UnknownCommand. A
+    /// snooze is stored before it is confirmed; one that cannot be yields ServerNames::StoreFailed.
     ///
     /// @param target the station that the command is for; empty for the server itself
     CommandResult execute(const QString &command, const QVariant &data, const QString &target);
@@ -86,13 +90,16 @@ private:
     void reconnectStations(const QStringList &ownParts, const QString &parentId);
     bool isReachable(const QString &stationId) const;
 
+    void loadSnoozes();
     bool isDown(const Snooze &snooze) const;
-    void dropSnooze(const QString &nodeId);
+    void dropSnoozes(const QStringList &nodeIds);
+    std::vector<Snooze> takeExpiredSnoozes();
     void expireSnoozes();
     void scheduleExpiry();
     void reportAll();
 
     Clock &m_clock;
+    SnoozeStore *const m_store; // or null
     Site m_site;
     SnoozeList m_snoozes;
     std::optional<qint64> m_expiryCallMs; // when snoozes are looked through next

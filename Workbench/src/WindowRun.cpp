@@ -3,6 +3,7 @@
 #include "DashboardWindow.h"
 #include "ExitCode.h"
 #include "Screenshot.h"
+#include "ServerLink.h"
 #include "Workbench.h"
 
 #include <QCoreApplication>
@@ -17,6 +18,7 @@ WindowRun::WindowRun(Workbench &workbench, DashboardWindow &window, Screenshot *
     ScenarioDriver &driver = workbench.driver();
     connect(&driver, &ScenarioDriver::screenshotDue, this, &WindowRun::takeScreenshot);
     connect(&driver, &ScenarioDriver::finished, this, &WindowRun::takeScreenshot);
+    connect(&workbench.link(), &ServerLink::refused, this, &WindowRun::showRefusal);
     if (isLooped)
         connect(&driver, &ScenarioDriver::finished, &workbench, &Workbench::start);
 }
@@ -39,4 +41,11 @@ void WindowRun::takeScreenshot()
         qWarning().noquote() << tr("%1 cannot be written").arg(m_screenshot->fileName());
         m_hasFailed = true;
     }
+}
+
+void WindowRun::showRefusal(const QString &reason)
+{
+    const QString text = tr("The server refuses this client: %1").arg(reason);
+    qWarning().noquote() << text;
+    m_window.setTitle(text);
 }

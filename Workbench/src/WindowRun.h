@@ -23,6 +23,7 @@ public:
 
 private:
     void takeScreenshot();
+    void showRefusal(const QString &reason);
 
     Workbench &m_workbench;
     DashboardWindow &m_window;

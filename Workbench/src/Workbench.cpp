@@ -1,31 +1,35 @@
 #include "Workbench.h"
 
+#include "LocalSite.h"
 #include "PluginBase.h"
 #include "PluginHost.h"
 #include "PluginIds.h"
+#include "ServerLink.h"
 
-Workbench::Workbench(PluginHost &host, QQmlContext *context, const Site &site,
+#include <utility>
+
+Workbench::Workbench(PluginHost &host, QQmlContext *context, ServerLink &link, LocalSite *site,
                      const Scenario &scenario, OperationalLogStore &log, Clock &clock)
     : m_host(host)
-    , m_initialSite(site)
-    , m_server(site, clock)
-    , m_link(m_server)
-    , m_framework([this](const QString &command, const QVariant &data, const QString &target) {
-        return m_link.execute(command, data, target);
+    , m_link(link)
+    , m_site(site)
+    , m_framework([this](const QString &command, const QVariant &data, const QString &target,
+                         const Framework::Answer &answer) {
+        m_link.execute(command, data, target, answer);
     })
     , m_recording(m_framework, m_link)
     , m_logPlugin(log, clock)
-    , m_localStation(m_server, NetworkCounters())
     , m_driver(scenario, clock)
 {
     wirePlugins(context);
     m_surface = std::make_unique<PluginSurface>(*host.plugin());
     m_errorWatch = std::make_unique<ErrorListWatch>(m_surface->errorModel());
-    m_actor = std::make_unique<ScenarioActor>(
-        ScenarioActor::Stage{m_server, m_link, m_topology, *m_surface, clock});
+    m_actor = std::make_unique<ScenarioActor>(ScenarioActor::Stage{
+        site ? &site->actor() : nullptr, m_link, m_topology, *m_surface, clock});
     wireServer();
-    connect(m_surface.get(), &PluginSurface::clientResourceChanged, &m_localStation,
-            &LocalStation::report);
+    if (site)
+        connect(m_surface.get(), &PluginSurface::clientResourceChanged, &site->thisMachine(),
+                &LocalStation::report);
     connect(&m_driver, &ScenarioDriver::due, this,
             [this](const AnyScenarioAction &action) { m_actor->perform(action); });
 }
@@ -39,9 +43,10 @@ Workbench::~Workbench()
 void Workbench::start()
 {
     m_link.close();
-    m_server.reset(m_initialSite);
+    if (m_site)
+        m_site->reset();
+    m_isScenarioDue = true;
     m_link.open();
-    m_driver.start();
 }
 
 void Workbench::wirePlugins(QQmlContext *context)
@@ -55,10 +60,7 @@ void Workbench::wirePlugins(QQmlContext *context)
 
 void Workbench::wireServer()
 {
-    connect(&m_link, &ServerLink::opened, this, [this] {
-        m_topology.setSite(m_link.site());
-        m_host.serverConnected();
-    });
+    connect(&m_link, &ServerLink::opened, this, &Workbench::takeSite);
     connect(&m_link, &ServerLink::closed, this, [this] {
         m_topology.setSite({});
         m_host.serverDisconnected();
@@ -73,4 +75,18 @@ void Workbench::wireServer()
                 Q_EMIT eventArrived(name, data, sourceId);
                 m_host.plugin()->EventProcessor(name, 0, 0, 0, data, sourceId);
             });
+}
+
+// A site in another process comes with all its states. They are announced from the event loop, when
+// everyone has heard of the connection.
+void Workbench::takeSite()
+{
+    m_topology.setSite(m_link.site());
+    m_host.serverConnected();
+    if (!m_site)
+        QMetaObject::invokeMethod(
+            &m_topology, [this] { m_topology.announceStatesRetrieved(true); },
+            Qt::QueuedConnection);
+    if (std::exchange(m_isScenarioDue, false))
+        m_driver.start();
 }

@@ -3,7 +3,6 @@
 
 #include "ErrorListWatch.h"
 #include "Framework.h"
-#include "LocalStation.h"
 #include "OperationalLogPlugin.h"
 #include "OperationalLogStore.h"
 #include "PluginSurface.h"
@@ -11,33 +10,37 @@
 #include "Scenario.h"
 #include "ScenarioActor.h"
 #include "ScenarioDriver.h"
-#include "ServerLink.h"
-#include "SiteServer.h"
 #include "TopologyPlugin.h"
 
 #include <memory>
 
+class LocalSite;
 class PluginHost;
 class QQmlContext;
+class ServerLink;
 
-/// The stand-in host as a whole: a site and its server, the plug-ins that the system monitor pairs
-/// with, and the scenario that is played on them.
+/// The stand-in host as a whole: a connection to a site's server, the plug-ins that the system
+/// monitor pairs with, and the scenario that is played on them.
 class Workbench : public QObject
 {
     Q_OBJECT
 
 public:
-    /// @param host     has loaded the plug-in; it is initialised and paired here. It must outlive
-    ///                 the Workbench, as must the clock and the log
-    /// @param context  the QML context of the user interface, or null without one
-    /// @param site     this machine among its stations
+    /// @param host    has loaded the plug-in; it is initialised and paired here. It must outlive
+    ///                the Workbench, as must the link, the site, the log and the clock
+    /// @param context the QML context of the user interface, or null without one
+    /// @param link    leads to the site's server
+    /// @param site    the site, where its server is in this process, otherwise null: then the
+    ///                scenario's events of the site are left out, and the states of all nodes have
+    ///                been retrieved whenever the link has opened
     ///
     /// Throws HostError when the plug-in cannot be used.
-    Workbench(PluginHost &host, QQmlContext *context, const Site &site, const Scenario &scenario,
-              OperationalLogStore &log, Clock &clock);
+    Workbench(PluginHost &host, QQmlContext *context, ServerLink &link, LocalSite *site,
+              const Scenario &scenario, OperationalLogStore &log, Clock &clock);
     ~Workbench() override;
 
-    /// Connects the server and plays the scenario; again with the site as it was at first.
+    /// Connects the server and, once it is connected, plays the scenario; again with the site as
+    /// it was at first.
     void start();
 
     ServerLink &link() { return m_link; }
@@ -55,20 +58,20 @@ Q_SIGNALS:
 private:
     void wirePlugins(QQmlContext *context);
     void wireServer();
+    void takeSite();
 
     PluginHost &m_host;
-    const Site m_initialSite;
-    SiteServer m_server;
-    ServerLink m_link;
+    ServerLink &m_link;
+    LocalSite *const m_site; // or null
     Framework m_framework;
     TopologyPlugin m_topology;
     RecordingManagementPlugin m_recording;
     OperationalLogPlugin m_logPlugin;
-    LocalStation m_localStation;
     ScenarioDriver m_driver;
     std::unique_ptr<PluginSurface> m_surface;
     std::unique_ptr<ErrorListWatch> m_errorWatch;
     std::unique_ptr<ScenarioActor> m_actor;
+    bool m_isScenarioDue = false; // as soon as the server is connected
 };
 
 #endif

@@ -1,3 +1,4 @@
+#include "AccessToken.h"
 #include "Catalogues.h"
 #include "ConsoleReport.h"
 #include "DashboardFeed.h"
@@ -9,15 +10,18 @@
 #include "HostError.h"
 #include "InputError.h"
 #include "JsonReport.h"
+#include "LocalSite.h"
 #include "MetricsServer.h"
 #include "OperationalLogReader.h"
 #include "Options.h"
 #include "PluginHost.h"
 #include "Preferences.h"
+#include "RemoteServerLink.h"
 #include "ScaledClock.h"
 #include "ScenarioFile.h"
 #include "Screenshot.h"
 #include "SiteFile.h"
+#include "SnoozeStore.h"
 #include "WindowRun.h"
 #include "Workbench.h"
 
@@ -88,6 +92,28 @@ QUrl pageUrl(const Options &options)
                : QUrl::fromLocalFile(QFileInfo(options.pageFile).absoluteFilePath());
 }
 
+std::unique_ptr<SnoozeStore> openStore(const Options &options)
+{
+    return options.storeFile.isEmpty() ? nullptr : std::make_unique<SnoozeStore>(options.storeFile);
+}
+
+// Null when the site is another process's.
+std::unique_ptr<LocalSite> openSite(const Options &options, const Site &site, Clock &clock,
+                                    SnoozeStore *store)
+{
+    return options.serverUrl.isEmpty() ? std::make_unique<LocalSite>(site, clock, store) : nullptr;
+}
+
+// Null when the site is in this process.
+std::unique_ptr<ServerLink> openRemoteLink(const Options &options, Clock &clock)
+{
+    if (options.serverUrl.isEmpty())
+        return nullptr;
+    const AccessToken token =
+        options.tokenFile.isEmpty() ? AccessToken() : AccessToken::fromFile(options.tokenFile);
+    return std::make_unique<RemoteServerLink>(options.serverUrl, token, clock);
+}
+
 // Null when nobody asks for metrics.
 std::unique_ptr<MetricsServer> serveMetrics(const Options &options, Workbench &workbench)
 {
@@ -136,7 +162,11 @@ int play(const Options &options, Catalogues &catalogues)
     std::unique_ptr<QQmlEngine> engine;
     if (!isHeadless || wantsPicture)
         engine = std::make_unique<QQmlEngine>();
-    Workbench workbench(host, engine ? engine->rootContext() : nullptr, site, scenario, log, clock);
+    const std::unique_ptr<SnoozeStore> store = openStore(options);
+    const std::unique_ptr<LocalSite> local = openSite(options, site, clock, store.get());
+    const std::unique_ptr<ServerLink> remote = openRemoteLink(options, clock);
+    Workbench workbench(host, engine ? engine->rootContext() : nullptr,
+                        remote ? *remote : local->link(), local.get(), scenario, log, clock);
     const std::unique_ptr<MetricsServer> metrics = serveMetrics(options, workbench);
     if (!engine)
         return playHeadless(options, workbench, clock, nullptr);
@@ -144,7 +174,8 @@ int play(const Options &options, Catalogues &catalogues)
     FileExport files(FileExport::usualFolder());
     OperationalLogReader logReader(log, workbench.logPlugin());
     Preferences preferences(isHeadless ? QString() : Preferences::usualFile());
-    DashboardWindow window(*engine, workbench.surface().plugin(), site.name, pageUrl(options));
+    DashboardWindow window(*engine, workbench.surface().plugin(),
+                           local ? site.name : options.serverUrl.toString(), pageUrl(options));
     const DashboardFeed feed(workbench.link(), window);
     window.setFiles(files);
     window.setOperationalLog(logReader);

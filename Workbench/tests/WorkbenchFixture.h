@@ -1,7 +1,7 @@
 #ifndef WORKBENCHFIXTURE_H
 #define WORKBENCHFIXTURE_H
 
-#include "LocalStation.h"
+#include "LocalSite.h"
 #include "OperationalLogStore.h"
 #include "PluginHost.h"
 #include "TestSite.h"
@@ -14,7 +14,8 @@ struct WorkbenchFixture
     explicit WorkbenchFixture(const QString &pluginFile, const Scenario &scenario = {})
         : host(pluginFile)
         , log(QString())
-        , workbench(host, nullptr, site(), scenario, log, clock)
+        , localSite(site(), clock)
+        , workbench(host, nullptr, localSite.link(), &localSite, scenario, log, clock)
     { }
 
     static Site site()
@@ -27,6 +28,7 @@ struct WorkbenchFixture
     VirtualClock clock;
     PluginHost host;
     OperationalLogStore log;
+    LocalSite localSite;
     Workbench workbench;
 };
 

@@ -148,6 +148,8 @@ void tst_ConsoleReport::writesWhatTheServerDoes()
     Q_EMIT workbench.link().eventRaised(ServerNames::DeviceStillError, expired, {});
     Q_EMIT workbench.link().eventRaised(ServerNames::RemoveSnooze, QStringLiteral("south"), {});
     workbench.link().close();
+    Q_EMIT workbench.link().attemptFailed(QStringLiteral("Connection refused"), 1250);
+    Q_EMIT workbench.link().refused(QStringLiteral("the token is wrong"));
     QCOMPARE(takeLines(),
              QStringList({QStringLiteral("server    connected"),
                           QStringLiteral("states    the states of all nodes were retrieved"),
@@ -156,7 +158,9 @@ void tst_ConsoleReport::writesWhatTheServerDoes()
                           QStringLiteral("expired   the snooze of north/c1, which is still "
                                          "disconnected"),
                           QStringLiteral("expired   the snooze of south"),
-                          QStringLiteral("server    connection lost")}));
+                          QStringLiteral("server    connection lost"),
+                          QStringLiteral("server    Connection refused; next try in 1.3 s"),
+                          QStringLiteral("server    refuses this client: the token is wrong")}));
 }
 
 void tst_ConsoleReport::writesWhatTheUserDoes()

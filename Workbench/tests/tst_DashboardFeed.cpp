@@ -1,7 +1,7 @@
 #include "DashboardFeed.h"
 
 #include "DashboardWindow.h"
-#include "ServerLink.h"
+#include "LocalServerLink.h"
 #include "ServerNames.h"
 #include "TestSite.h"
 #include "VirtualClock.h"
@@ -37,7 +37,7 @@ private:
     QQmlEngine m_engine;
     QObject m_plugin;
     std::unique_ptr<SiteServer> m_server;
-    std::unique_ptr<ServerLink> m_link;
+    std::unique_ptr<LocalServerLink> m_link;
     std::unique_ptr<DashboardWindow> m_window;
     std::unique_ptr<DashboardFeed> m_feed;
 };
@@ -45,7 +45,7 @@ private:
 void tst_DashboardFeed::init()
 {
     m_server = std::make_unique<SiteServer>(testSite(), m_clock);
-    m_link = std::make_unique<ServerLink>(*m_server);
+    m_link = std::make_unique<LocalServerLink>(*m_server);
     m_window = std::make_unique<DashboardWindow>(
         m_engine, m_plugin, QString(), QUrl::fromLocalFile(QFINDTESTDATA("data/Dashboard.qml")));
     m_feed = std::make_unique<DashboardFeed>(*m_link, *m_window);

@@ -2,6 +2,7 @@
 
 #include "FakeMonitor.h"
 #include "PrintedValue.h"
+#include "ServerNames.h"
 #include "SiteServer.h"
 #include "TopologyPlugin.h"
 
@@ -37,6 +38,9 @@ private Q_SLOTS:
     void dropsTheAnswerWhenTheSenderIsGone();
     void answersWhatIsOutstandingOnRequest();
     void commandsSentByAnAnswerAreAnswered();
+    void serverMayAnswerLater();
+    void lateAnswerAfterTheRequestIsIgnored();
+    void lateAnswerAfterTheFrameworkIsIgnored();
 
     void connectsSignalsToPrivateInvokables();
     void refusesWrongConnections_data();
@@ -48,6 +52,8 @@ private:
     bool send(const QString &command, const QVariant &data = {}, void *context = nullptr,
               const QString &target = {});
 
+    bool m_answersLate = false;
+    Framework::Answer m_lateAnswer;
     CallLog m_log;
     std::unique_ptr<FakeMonitor> m_monitor;
     std::unique_ptr<TopologyPlugin> m_topology;
@@ -57,12 +63,17 @@ private:
 void tst_Framework::init()
 {
     m_log.take();
+    m_answersLate = false;
     m_monitor = std::make_unique<FakeMonitor>(m_log);
     m_topology = std::make_unique<TopologyPlugin>();
     m_framework = std::make_unique<Framework>([this](const QString &command, const QVariant &data,
-                                                     const QString &target) {
+                                                     const QString &target,
+                                                     const Framework::Answer &answer) {
         m_log.add(QStringLiteral("execute %1 %2 at '%3'").arg(command, printedValue(data), target));
-        return CommandResult{QStringLiteral("code of ") + command, data};
+        if (m_answersLate)
+            m_lateAnswer = answer;
+        else
+            answer({QStringLiteral("code of ") + command, data});
     });
     m_framework->registerPlugin(MonitorId, m_monitor.get());
     m_framework->registerPlugin(TopologyId, m_topology.get());
@@ -190,6 +201,42 @@ void tst_Framework::commandsSentByAnAnswerAreAnswered()
     send(QStringLiteral("first"));
     QCoreApplication::sendPostedEvents();
     QCOMPARE(rounds, 3);
+}
+
+void tst_Framework::serverMayAnswerLater()
+{
+    m_answersLate = true;
+    send(QStringLiteral("ask"));
+    QCoreApplication::sendPostedEvents();
+    QCOMPARE(m_log.take(), QStringList{QStringLiteral("execute ask invalid at ''")});
+    m_lateAnswer({QStringLiteral("late"), 3});
+    QCOMPARE(m_log.take(), QStringList{QStringLiteral("response ask 3 late")});
+    m_lateAnswer({QStringLiteral("again"), 3});
+    QCOMPARE(m_log.take(), QStringList());
+}
+
+void tst_Framework::lateAnswerAfterTheRequestIsIgnored()
+{
+    m_answersLate = true;
+    send(QStringLiteral("ask"), 7);
+    QCoreApplication::sendPostedEvents();
+    m_log.take();
+    m_framework->answerCommands();
+    QCOMPARE(m_log.take(),
+             QStringList{QStringLiteral("response ask 7 ") + ServerNames::FrameworkInternalError});
+    m_lateAnswer({QStringLiteral("late"), 3});
+    QCOMPARE(m_log.take(), QStringList());
+}
+
+void tst_Framework::lateAnswerAfterTheFrameworkIsIgnored()
+{
+    m_answersLate = true;
+    send(QStringLiteral("ask"));
+    QCoreApplication::sendPostedEvents();
+    m_log.take();
+    m_framework.reset();
+    m_lateAnswer({QStringLiteral("late"), 3});
+    QCOMPARE(m_log.take(), QStringList());
 }
 
 void tst_Framework::connectsSignalsToPrivateInvokables()

@@ -39,6 +39,7 @@ private Q_SLOTS:
     void errorsThatRemainShowInTheExitCode();
     void errorsThatWereClearedDoNotShowInTheExitCode();
     void failureOutweighsErrorsThatRemain();
+    void refusalEndsTheRun();
 
 private:
     int run(const Scenario &scenario, const QString &picture = {});
@@ -136,6 +137,16 @@ void tst_HeadlessRun::failureOutweighsErrorsThatRemain()
     m_atEnd = [](ErrorModel &errors) { addError(errors); };
     QCOMPARE(run({{}, {}, 0}, m_directory.filePath(QStringLiteral("picture.unknown"))),
              ExitCode::Failure);
+}
+
+void tst_HeadlessRun::refusalEndsTheRun()
+{
+    QTimer::singleShot(0, this, [this] {
+        Q_EMIT m_fixture->workbench.link().refused(QStringLiteral("the token is wrong"));
+    });
+    QCOMPARE(run({{}, {}, 600'000}), ExitCode::Failure);
+    QVERIFY(m_output.contains(QStringLiteral("refuses this client: the token is wrong")));
+    QVERIFY(m_output.contains(QStringLiteral("Summary")));
 }
 
 QTEST_MAIN(tst_HeadlessRun)

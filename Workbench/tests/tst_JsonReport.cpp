@@ -33,6 +33,7 @@ private Q_SLOTS:
     void writesWhatTheServerDoes();
     void writesWhatTheUserDoes();
     void refusedSnoozeTellsWhy();
+    void missingServerTellsWhy();
     void textIsEscaped();
     void pictureTellsWhetherItWasSaved();
     void summaryListsErrorsThatRemainAndCounts();
@@ -186,6 +187,17 @@ void tst_JsonReport::refusedSnoozeTellsWhy()
     QCOMPARE(object.value(QStringLiteral("accepted")), QJsonValue(false));
     QCOMPARE(object.value(QStringLiteral("resultCode")).toString(),
              ServerNames::FrameworkInternalError);
+}
+
+void tst_JsonReport::missingServerTellsWhy()
+{
+    ServerLink &link = m_fixture->workbench.link();
+    Q_EMIT link.attemptFailed(QStringLiteral("no answer"), 1500);
+    Q_EMIT link.refused(QStringLiteral("wrong token"));
+    QCOMPARE(takeLines(),
+             QStringList({QStringLiteral(
+                              R"({"event":"attemptFailed","pauseMs":1500,"reason":"no answer"})"),
+                          QStringLiteral(R"({"event":"refused","reason":"wrong token"})")}));
 }
 
 void tst_JsonReport::textIsEscaped()

@@ -37,10 +37,10 @@ QStringList takeLog(const PluginHost &host)
 
 std::unique_ptr<Framework> echo()
 {
-    return std::make_unique<Framework>(
-        [](const QString &command, const QVariant &, const QString &) {
-            return CommandResult{QStringLiteral("code"), command};
-        });
+    return std::make_unique<Framework>([](const QString &command, const QVariant &, const QString &,
+                                          const Framework::Answer &answer) {
+        answer({QStringLiteral("code"), command});
+    });
 }
 
 } // namespace

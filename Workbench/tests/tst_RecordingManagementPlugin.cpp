@@ -2,8 +2,8 @@
 
 #include "FakeMonitor.h"
 #include "Framework.h"
+#include "LocalServerLink.h"
 #include "PluginIds.h"
-#include "ServerLink.h"
 #include "TestSite.h"
 #include "VirtualClock.h"
 
@@ -35,7 +35,7 @@ private:
     VirtualClock m_clock;
     std::unique_ptr<FakeMonitor> m_monitor;
     std::unique_ptr<SiteServer> m_server;
-    std::unique_ptr<ServerLink> m_link;
+    std::unique_ptr<LocalServerLink> m_link;
     std::unique_ptr<Framework> m_framework;
     std::unique_ptr<RecordingManagementPlugin> m_plugin;
 };
@@ -45,10 +45,10 @@ void tst_RecordingManagementPlugin::init()
     m_log.take();
     m_monitor = std::make_unique<FakeMonitor>(m_log);
     m_server = std::make_unique<SiteServer>(testSite(), m_clock);
-    m_link = std::make_unique<ServerLink>(*m_server);
+    m_link = std::make_unique<LocalServerLink>(*m_server);
     m_link->open();
     m_framework = std::make_unique<Framework>(
-        [](const QString &, const QVariant &, const QString &) { return CommandResult{}; });
+        [](const QString &, const QVariant &, const QString &, const Framework::Answer &) {});
     m_framework->registerPlugin(PluginIds::SystemMonitor, m_monitor.get());
     m_plugin = std::make_unique<RecordingManagementPlugin>(*m_framework, *m_link);
 }

@@ -1,14 +1,14 @@
 #include "ScenarioActor.h"
 
 #include "FakeMonitor.h"
+#include "LocalServerLink.h"
 #include "PluginSurface.h"
-#include "ServerLink.h"
 #include "SignalLog.h"
+#include "SiteActor.h"
 #include "TestSite.h"
 #include "TopologyPlugin.h"
 #include "VirtualClock.h"
 
-#include <QSignalSpy>
 #include <QTest>
 
 #include <memory>
@@ -23,9 +23,8 @@ private Q_SLOTS:
     void init();
     void cleanup();
 
-    void changesTheSite();
-    void changesStorage();
-    void reportsFromTheSite();
+    void leavesTheSiteToItsActor();
+    void doesWithoutASite();
     void opensAndClosesTheLink();
     void announcesRetrievedStates();
     void doesWhatTheUserDoes();
@@ -38,7 +37,8 @@ private:
     std::unique_ptr<VirtualClock> m_clock;
     std::unique_ptr<FakeMonitor> m_monitor;
     std::unique_ptr<SiteServer> m_server;
-    std::unique_ptr<ServerLink> m_link;
+    std::unique_ptr<SiteActor> m_siteActor;
+    std::unique_ptr<LocalServerLink> m_link;
     std::unique_ptr<TopologyPlugin> m_topology;
     std::unique_ptr<PluginSurface> m_surface;
     std::unique_ptr<ScenarioActor> m_actor;
@@ -50,11 +50,12 @@ void tst_ScenarioActor::init()
     m_clock = std::make_unique<VirtualClock>();
     m_monitor = std::make_unique<FakeMonitor>(m_log);
     m_server = std::make_unique<SiteServer>(testSite(), *m_clock);
-    m_link = std::make_unique<ServerLink>(*m_server);
+    m_link = std::make_unique<LocalServerLink>(*m_server);
     m_topology = std::make_unique<TopologyPlugin>();
     m_surface = std::make_unique<PluginSurface>(*m_monitor);
+    m_siteActor = std::make_unique<SiteActor>(*m_server);
     m_actor = std::make_unique<ScenarioActor>(
-        ScenarioActor::Stage{*m_server, *m_link, *m_topology, *m_surface, *m_clock});
+        ScenarioActor::Stage{m_siteActor.get(), *m_link, *m_topology, *m_surface, *m_clock});
 }
 
 void tst_ScenarioActor::cleanup()
@@ -64,47 +65,19 @@ void tst_ScenarioActor::cleanup()
     m_server.reset();
 }
 
-void tst_ScenarioActor::changesTheSite()
+void tst_ScenarioActor::leavesTheSiteToItsActor()
 {
     perform(SetCameraConnected{QStringLiteral("north/c1"), false});
-    perform(SetStationConnected{QStringLiteral("south"), false});
-    perform(RemoveCamera{QStringLiteral("north/c2")});
-    perform(RemoveStation{QStringLiteral("north/annex")});
-    const Site &site = m_server->site();
-    QVERIFY(!site.findCamera(QStringLiteral("north/c1"))->connected);
-    QVERIFY(!site.findStation(QStringLiteral("south"))->connected);
-    QVERIFY(!site.findCamera(QStringLiteral("north/c2")));
-    QVERIFY(!site.findStation(QStringLiteral("north/annex")));
-    perform(SetCameraConnected{QStringLiteral("north/c1"), true});
-    perform(SetStationConnected{QStringLiteral("south"), true});
-    QVERIFY(site.findCamera(QStringLiteral("north/c1"))->connected);
-    QVERIFY(site.findStation(QStringLiteral("south"))->connected);
+    QVERIFY(!m_server->site().findCamera(QStringLiteral("north/c1"))->connected);
 }
 
-void tst_ScenarioActor::changesStorage()
+void tst_ScenarioActor::doesWithoutASite()
 {
-    const QString north = QStringLiteral("north");
-    perform(SetVolumeConnected{north, QStringLiteral("v2"), false});
-    perform(SetRecordedDays{north, QStringLiteral("g1"), 4});
-    perform(RenameRecordingGroup{north, QStringLiteral("g1"), QStringLiteral("Doors")});
-    const Station &station = *m_server->site().findStation(north);
-    QVERIFY(station.hasLostVolume());
-    QCOMPARE(station.recordingGroups.at(0).recordedDays, 4);
-    QCOMPARE(station.recordingGroups.at(0).name, QStringLiteral("Doors"));
-    perform(SetVolumeConnected{north, QStringLiteral("v2"), true});
-    QVERIFY(!station.hasLostVolume());
-}
-
-void tst_ScenarioActor::reportsFromTheSite()
-{
-    const QSignalSpy events(m_server.get(), &SiteServer::eventRaised);
-    perform(SetResources{QStringLiteral("north"), {97, 12, {}}});
-    perform(ReportReachingLimit{QStringLiteral("Main"), 87.5});
-    QCoreApplication::sendPostedEvents();
-    QCOMPARE(events.size(), 2);
-    QCOMPARE(events.at(0).at(0).toString(), QStringLiteral("SystemResChanged"));
-    QCOMPARE(events.at(1).at(0).toString(), QStringLiteral("ServerReachingLimited"));
-    QCOMPARE(m_server->site().findStation(QStringLiteral("north"))->resources->cpuPercentage, 97);
+    ScenarioActor actor({nullptr, *m_link, *m_topology, *m_surface, *m_clock});
+    actor.perform(SetCameraConnected{QStringLiteral("north/c1"), false});
+    QVERIFY(m_server->site().findCamera(QStringLiteral("north/c1"))->connected);
+    actor.perform(ReconnectCameras{});
+    QCOMPARE(m_log.take(), QStringList{QStringLiteral("reconnectDisconnectCameras")});
 }
 
 void tst_ScenarioActor::opensAndClosesTheLink()

@@ -1,12 +1,15 @@
 #include "SiteServer.h"
 
 #include "CallLog.h"
+#include "FullDisk.h"
 #include "PrintedValue.h"
 #include "ServerNames.h"
+#include "SnoozeStore.h"
 #include "TestSite.h"
 #include "VirtualClock.h"
 
 #include <QRegularExpression>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include <memory>
@@ -72,12 +75,22 @@ private Q_SLOTS:
 
     void resetForgetsSnoozesAndPendingEvents();
 
+    void storedSnoozesOutliveTheServer();
+    void storeForgetsWhatHasExpiredOrWasRemoved();
+    void snoozesThatExpiredMeanwhileAreForgotten();
+    void resetKeepsStoredSnoozes();
+    void snoozeThatCannotBeStoredIsRefused();
+
 private:
     CommandResult execute(const QString &command, const QVariant &data = {},
                           const QString &target = {});
     QString resultOfSnooze(const QString &nodeId, qint64 seconds, int type);
     QStringList takeEvents();
+    void startWithStore();
+    QStringList storedIds() const;
 
+    const QTemporaryDir m_directory;
+    std::unique_ptr<SnoozeStore> m_store;
     std::unique_ptr<VirtualClock> m_clock;
     std::unique_ptr<SiteServer> m_server;
     CallLog m_log;
@@ -111,6 +124,29 @@ void tst_SiteServer::init()
 void tst_SiteServer::cleanup()
 {
     m_server.reset();
+    m_store.reset();
+    QFile::remove(m_directory.filePath(QStringLiteral("snoozes.sqlite")));
+}
+
+// A new server process, as it were, with the store of the one before.
+void tst_SiteServer::startWithStore()
+{
+    m_server.reset();
+    m_store.reset();
+    m_store = std::make_unique<SnoozeStore>(m_directory.filePath(QStringLiteral("snoozes.sqlite")));
+    m_server = std::make_unique<SiteServer>(testSite(), *m_clock, m_store.get());
+    connect(m_server.get(), &SiteServer::eventRaised, this,
+            [this](const QString &name, const QVariant &data) {
+                m_log.add(QStringLiteral("%1 %2").arg(name, printedValue(data)));
+            });
+}
+
+QStringList tst_SiteServer::storedIds() const
+{
+    QStringList ids;
+    for (const Snooze &snooze : m_store->snoozes())
+        ids.append(snooze.nodeId);
+    return ids;
 }
 
 CommandResult tst_SiteServer::execute(const QString &command, const QVariant &data,
@@ -491,6 +527,68 @@ void tst_SiteServer::resetForgetsSnoozesAndPendingEvents()
     takeEvents();
     m_clock->advance(10 * Second);
     QCOMPARE(takeEvents().size(), 1);
+}
+
+void tst_SiteServer::storedSnoozesOutliveTheServer()
+{
+    startWithStore();
+    resultOfSnooze(QStringLiteral("north/c1"), 30, 3);
+    startWithStore();
+    QCOMPARE(execute(QStringLiteral("getSnoozeList")).data.toStringList(),
+             QStringList{QStringLiteral("north/c1")});
+    m_server->setCameraConnected(QStringLiteral("north/c1"), false);
+    m_clock->advance(30 * Second);
+    QCOMPARE(takeEvents(),
+             QStringList{QStringLiteral(R"(DeviceStillError {"nodeID": "north/c1", "type": 3})")});
+}
+
+void tst_SiteServer::storeForgetsWhatHasExpiredOrWasRemoved()
+{
+    startWithStore();
+    resultOfSnooze(QStringLiteral("north/c1"), 30, 3);
+    resultOfSnooze(QStringLiteral("north/annex"), 50, 4);
+    resultOfSnooze(QStringLiteral("south"), 50, 4);
+    QCOMPARE(storedIds().size(), 3);
+    m_clock->advance(30 * Second);
+    QCOMPARE(storedIds(), QStringList({QStringLiteral("north/annex"), QStringLiteral("south")}));
+    m_server->removeStation(QStringLiteral("north"));
+    QCOMPARE(storedIds(), QStringList{QStringLiteral("south")});
+}
+
+void tst_SiteServer::snoozesThatExpiredMeanwhileAreForgotten()
+{
+    startWithStore();
+    resultOfSnooze(QStringLiteral("north/c1"), 30, 3);
+    resultOfSnooze(QStringLiteral("south"), 50, 4);
+    takeEvents();
+    m_server.reset();
+    m_clock->leap(40 * Second);
+    startWithStore();
+    QCOMPARE(storedIds(), QStringList{QStringLiteral("south")});
+    QCOMPARE(takeEvents(), QStringList());
+}
+
+void tst_SiteServer::resetKeepsStoredSnoozes()
+{
+    startWithStore();
+    resultOfSnooze(QStringLiteral("north/c1"), 30, 3);
+    m_server->reset(testSite());
+    QCOMPARE(execute(QStringLiteral("getSnoozeList")).data.toStringList(),
+             QStringList{QStringLiteral("north/c1")});
+}
+
+void tst_SiteServer::snoozeThatCannotBeStoredIsRefused()
+{
+    startWithStore();
+    {
+        const FullDisk disk(512);
+        QTest::ignoreMessage(QtWarningMsg,
+                             QRegularExpression(QStringLiteral(": cannot be written: ")));
+        QCOMPARE(resultOfSnooze(QStringLiteral("north/c1"), 30, 3), QStringLiteral("StoreFailed"));
+    }
+    QCOMPARE(takeEvents(), QStringList());
+    QCOMPARE(execute(QStringLiteral("getSnoozeList")).data.toStringList(), QStringList());
+    QCOMPARE(resultOfSnooze(QStringLiteral("north/c1"), 30, 3), QStringLiteral("0"));
 }
 
 QTEST_GUILESS_MAIN(tst_SiteServer)

@@ -26,6 +26,7 @@ private Q_SLOTS:
     void screenshotIsTakenAtTheEndOtherwise();
     void screenshotThatCannotBeWrittenShowsInTheExitCode();
     void loopStartsTheScenarioAgain();
+    void refusalIsShown();
 
 private:
     void prepare(const Scenario &scenario);
@@ -112,6 +113,18 @@ void tst_WindowRun::loopStartsTheScenarioAgain()
     const QSignalSpy finished(&m_fixture->workbench.driver(), &ScenarioDriver::finished);
     QCOMPARE(runFor(3500, true), 0);
     QCOMPARE(finished.size(), 3);
+}
+
+void tst_WindowRun::refusalIsShown()
+{
+    prepare({{}, {}, 1000});
+    const QString text = QStringLiteral("The server refuses this client: the token is wrong");
+    QTest::ignoreMessage(QtWarningMsg, qPrintable(text));
+    QTimer::singleShot(0, this, [this] {
+        Q_EMIT m_fixture->workbench.link().refused(QStringLiteral("the token is wrong"));
+    });
+    QCOMPARE(runFor(100), 0);
+    QCOMPARE(m_window->title(), text);
 }
 
 QTEST_MAIN(tst_WindowRun)

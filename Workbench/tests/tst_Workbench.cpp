@@ -1,6 +1,7 @@
 #include "Workbench.h"
 
 #include "PluginBase.h"
+#include "ServerLink.h"
 #include "WorkbenchFixture.h"
 
 #include <QRegularExpression>
@@ -11,6 +12,25 @@
 #include <memory>
 
 using namespace ScenarioAction;
+
+namespace {
+
+// A connection that comes when the test says so.
+class LateLink : public ServerLink
+{
+public:
+    const Site &site() const override { return m_site; }
+    std::vector<::Snooze> snoozes() const override { return {}; }
+    void open() override { }
+    void close() override { setOpen(false); }
+    void execute(const QString &, const QVariant &, const QString &, const Answer &) override { }
+    void come() { setOpen(true); }
+
+private:
+    const Site m_site = testSite();
+};
+
+} // namespace
 
 class tst_Workbench : public QObject
 {
@@ -29,6 +49,7 @@ private Q_SLOTS:
     void samplesBecomeReportsOfThisMachine();
     void answersCommandsThroughTheServer();
     void startsAgainWithTheSiteAsItWas();
+    void siteOfAnotherProcessIsLearntWhenItIsConnected();
     void destroysThePluginFirst();
 
 private:
@@ -197,6 +218,36 @@ void tst_Workbench::startsAgainWithTheSiteAsItWas()
     QCOMPARE(topology(), before);
     QCOMPARE(takeLog(), QStringList({QStringLiteral("server disconnected"),
                                      QStringLiteral("server connected")}));
+}
+
+void tst_Workbench::siteOfAnotherProcessIsLearntWhenItIsConnected()
+{
+    play({});
+    VirtualClock clock;
+    LateLink link;
+    PluginHost host(QStringLiteral(TEST_PLUGIN_FOLDER "/FakeMonitorPlugin.so"));
+    OperationalLogStore log{QString()};
+    Workbench workbench(
+        host, nullptr, link, nullptr,
+        {{{0, SetCameraConnected{QStringLiteral("north/c1"), false}}, {0, ReconnectCameras{}}},
+         {},
+         0},
+        log, clock);
+    const QSignalSpy retrieved(&workbench.topology(), &TopologyPlugin::camStatusRetrievedChanged);
+    const QSignalSpy due(&workbench.driver(), &ScenarioDriver::due);
+    workbench.start();
+    clock.advance(5000);
+    QCOMPARE(retrieved.size(), 0);
+    QCOMPARE(due.size(), 0);
+    link.come();
+    clock.advance(0);
+    QCOMPARE(retrieved.size(), 1);
+    QCOMPARE(due.size(), 2);
+    link.close();
+    link.come();
+    clock.advance(0);
+    QCOMPARE(retrieved.size(), 2);
+    QCOMPARE(due.size(), 2);
 }
 
 void tst_Workbench::destroysThePluginFirst()

@@ -1,0 +1,100 @@
+#include "ClientSession.h"
+
+#include "Clock.h"
+#include "InputError.h"
+#include "ServerMessages.h"
+#include "SiteServer.h"
+
+#include <QWebSocket>
+
+namespace {
+
+// What a client may leave untaken; the largest sites fit in several times.
+constexpr qint64 MaxUntakenBytes = 16 * 1024 * 1024;
+
+// How long a refused client may take to read why.
+constexpr qint64 FarewellMs = 1000;
+
+} // namespace
+
+ClientSession::ClientSession(std::unique_ptr<QWebSocket> socket, const AccessToken &token,
+                             SiteServer &server, Clock &clock, QObject *parent)
+    : QObject(parent)
+    , m_socket(std::move(socket))
+    , m_token(token)
+    , m_server(server)
+    , m_clock(clock)
+    , m_heartbeat(clock, Pace)
+{
+    m_socket->setMaxAllowedIncomingFrameSize(ClientMessage::MaxBytes);
+    m_socket->setMaxAllowedIncomingMessageSize(ClientMessage::MaxBytes);
+    connect(m_socket.get(), &QWebSocket::textMessageReceived, this,
+            [this](const QString &text) { take(text); });
+    connect(m_socket.get(), &QWebSocket::binaryMessageReceived, this,
+            [this] { refuse(tr("message: expected text, found binary data")); });
+    connect(m_socket.get(), &QWebSocket::disconnected, this, &ClientSession::ended);
+    connect(m_socket.get(), &QWebSocket::pong, &m_heartbeat, &Heartbeat::heard);
+    connect(&m_heartbeat, &Heartbeat::pingDue, this, [this] { m_socket->ping(); });
+    connect(&m_heartbeat, &Heartbeat::fellSilent, this, [this] { m_socket->abort(); });
+    clock.callAt(clock.nowMs() + HelloMs, this, [this] {
+        if (m_phase == Phase::Unknown)
+            refuse(tr("expected a hello within %1 seconds").arg(HelloMs / 1000));
+    });
+}
+
+// The socket may speak once more while it goes.
+ClientSession::~ClientSession()
+{
+    m_socket->disconnect(this);
+}
+
+void ClientSession::send(const QString &message)
+{
+    if (m_phase != Phase::Welcome)
+        return;
+    m_socket->sendTextMessage(message);
+    if (m_socket->bytesToWrite() > MaxUntakenBytes)
+        m_socket->abort();
+}
+
+void ClientSession::refuse(const QString &reason)
+{
+    if (m_phase == Phase::Refused)
+        return;
+    m_phase = Phase::Refused;
+    m_heartbeat.stop();
+    m_clock.callAt(m_clock.nowMs() + FarewellMs, this, [this] { m_socket->abort(); });
+    m_socket->sendTextMessage(toText(ServerMessage::Refused{reason}));
+    m_socket->close(QWebSocketProtocol::CloseCodePolicyViolated);
+}
+
+void ClientSession::take(const QString &text)
+{
+    if (m_phase == Phase::Refused)
+        return;
+    m_heartbeat.heard();
+    try {
+        std::visit([this](const auto &message) { take(message); }, readClientMessage(text));
+    } catch (const InputError &error) {
+        refuse(error.message());
+    }
+}
+
+void ClientSession::take(const ClientMessage::Hello &hello)
+{
+    if (m_phase == Phase::Welcome)
+        return refuse(tr("message: expected one hello, found another"));
+    if (!m_token.admits(hello.token))
+        return refuse(hello.token.isEmpty() ? tr("expected a token") : tr("the token is wrong"));
+    m_phase = Phase::Welcome;
+    send(toText(ServerMessage::Welcome{m_server.site(), m_server.snoozes()}));
+    m_heartbeat.start();
+}
+
+void ClientSession::take(const ClientMessage::Command &command)
+{
+    if (m_phase == Phase::Unknown)
+        return refuse(tr("message: expected a hello first"));
+    const CommandResult result = m_server.execute(command.name, command.data, command.target);
+    send(toText(ServerMessage::Result{command.id, result.code, result.data}));
+}

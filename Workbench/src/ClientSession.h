@@ -1,0 +1,64 @@
+#ifndef CLIENTSESSION_H
+#define CLIENTSESSION_H
+
+#include "AccessToken.h"
+#include "ClientMessages.h"
+#include "Heartbeat.h"
+
+#include <QObject>
+
+#include <memory>
+
+class Clock;
+class QWebSocket;
+class SiteServer;
+
+/// One client of a site server, from its hello until the connection ends.
+///
+/// A client that says what is not understood, that says no hello for five seconds, that falls
+/// silent or does not take what it is sent loses its connection, and nothing else happens.
+class ClientSession : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// How long a client may take for its hello, in milliseconds.
+    static constexpr qint64 HelloMs = 5000;
+
+    /// A silent client is dropped after about a quarter of a minute.
+    static constexpr Heartbeat::Pace Pace{5000, 3};
+
+    /// @param socket an open connection, owned by the session from now on
+    /// @param token  what the client has to give
+    /// @param server like the clock, it must outlive the session
+    ClientSession(std::unique_ptr<QWebSocket> socket, const AccessToken &token, SiteServer &server,
+                  Clock &clock, QObject *parent = nullptr);
+    ~ClientSession() override;
+
+    /// Sends a message that is for all clients. It goes nowhere before this one was welcomed.
+    void send(const QString &message);
+
+    /// Says why the connection is not wanted, and ends it.
+    void refuse(const QString &reason);
+
+Q_SIGNALS:
+    /// The connection is gone. The session is of no more use and may be deleted from the event
+    /// loop.
+    void ended();
+
+private:
+    enum class Phase { Unknown, Welcome, Refused };
+
+    void take(const QString &text);
+    void take(const ClientMessage::Hello &hello);
+    void take(const ClientMessage::Command &command);
+
+    const std::unique_ptr<QWebSocket> m_socket;
+    const AccessToken m_token;
+    SiteServer &m_server;
+    Clock &m_clock;
+    Heartbeat m_heartbeat;
+    Phase m_phase = Phase::Unknown;
+};
+
+#endif

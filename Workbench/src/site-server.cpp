@@ -1,0 +1,90 @@
+#include "AccessToken.h"
+#include "InputError.h"
+#include "ScaledClock.h"
+#include "ScenarioDriver.h"
+#include "ScenarioFile.h"
+#include "ServerGate.h"
+#include "ServerOptions.h"
+#include "SiteActor.h"
+#include "SiteFile.h"
+#include "SiteServer.h"
+#include "SnoozeStore.h"
+
+#include <QTextStream>
+
+#include <cstdlib>
+#include <memory>
+
+namespace {
+
+constexpr int ExitBadInput = 2;
+
+void complain(const QString &message)
+{
+    QTextStream(stderr) << "site-server: " << message << '\n';
+}
+
+std::unique_ptr<SnoozeStore> openStore(const ServerOptions &options)
+{
+    return options.storeFile.isEmpty() ? nullptr : std::make_unique<SnoozeStore>(options.storeFile);
+}
+
+AccessToken readToken(const ServerOptions &options)
+{
+    return options.tokenFile.isEmpty() ? AccessToken() : AccessToken::fromFile(options.tokenFile);
+}
+
+Scenario readScenario(const ServerOptions &options, const Site &site)
+{
+    return options.scenarioFile.isEmpty() ? Scenario()
+                                          : readScenarioFile(options.scenarioFile, site);
+}
+
+int serve(const ServerOptions &options)
+{
+    const Site site = readSiteFile(options.siteFile);
+    const AccessToken token = readToken(options);
+    ScaledClock clock;
+    ScenarioDriver driver(readScenario(options, site), clock);
+    const std::unique_ptr<SnoozeStore> store = openStore(options);
+    SiteServer server(site, clock, store.get());
+    SiteActor actor(server);
+    QObject::connect(&driver, &ScenarioDriver::due, &server,
+                     [&actor](const AnyScenarioAction &action) { actor.perform(action); });
+
+    ServerGate gate(server, token, clock);
+    if (!gate.listen(options.address, options.port)) {
+        complain(QCoreApplication::translate("site-server", "--listen: %1, port %2: %3")
+                     .arg(options.address.toString())
+                     .arg(options.port)
+                     .arg(gate.errorText()));
+        return EXIT_FAILURE;
+    }
+    QTextStream(stdout)
+        << QCoreApplication::translate("site-server", "listening on %1").arg(gate.url().toString())
+        << Qt::endl;
+    driver.start();
+    return QCoreApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    const QCoreApplication application(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("site-server"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(WORKBENCH_VERSION));
+    try {
+        const ServerOptions options = parseServerOptions(QCoreApplication::arguments());
+        if (options.wantsHelp)
+            QTextStream(stdout) << serverOptionsHelp();
+        else if (options.wantsVersion)
+            QTextStream(stdout) << "site-server " WORKBENCH_VERSION "\n";
+        else
+            return serve(options);
+        return EXIT_SUCCESS;
+    } catch (const InputError &error) {
+        complain(error.message());
+        return ExitBadInput;
+    }
+}
