@@ -610,6 +610,17 @@ einem Szenario der Ereignisse und der Auslastung dieses Rechners.
     </message>
 </context>
 <context>
+    <name>RunProgress</name>
+    <message>
+        <source>%1 of %2 s of the scenario</source>
+        <translation>%1 von %2 s des Szenarios</translation>
+    </message>
+    <message>
+        <source>waiting for the error list to come to rest</source>
+        <translation>warten, bis die Fehlerliste zur Ruhe kommt</translation>
+    </message>
+</context>
+<context>
     <name>ScenarioFile</name>
     <message>
         <source>one of %1</source>
@@ -790,6 +801,10 @@ Rückgabewerte: 1 die Arbeit war nicht möglich, 2 eine Option oder eine Datei i
     <message>
         <source>--format: expected --headless as well.</source>
         <translation>--format: erwartet: auch --headless.</translation>
+    </message>
+    <message>
+        <source>reading %1</source>
+        <translation>%1 wird gelesen</translation>
     </message>
 </context>
 <context>

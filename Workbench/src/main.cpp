@@ -17,10 +17,12 @@
 #include "PluginHost.h"
 #include "Preferences.h"
 #include "RemoteServerLink.h"
+#include "RunProgress.h"
 #include "ScaledClock.h"
 #include "ScenarioFile.h"
 #include "Screenshot.h"
 #include "SiteFile.h"
+#include "SlowNotice.h"
 #include "SnoozeStore.h"
 #include "WindowRun.h"
 #include "Workbench.h"
@@ -62,6 +64,9 @@ std::unique_ptr<QCoreApplication> createApplication(const Options &options, int 
 
 Site readSite(const Options &options)
 {
+    const SlowNotice notice(
+        StatusLine::onStandardError(),
+        QCoreApplication::translate("main", "reading %1").arg(options.siteFile));
     Site site = readSiteFile(options.siteFile);
     site.stations.push_back(LocalStation::station());
     return site;
@@ -133,12 +138,13 @@ std::unique_ptr<RunReport> createReport(ReportFormat format, QTextStream &out, c
     return std::make_unique<ConsoleReport>(out, clock);
 }
 
-int playHeadless(const Options &options, Workbench &workbench, const Clock &clock,
-                 Screenshot *screenshot)
+int playHeadless(const Options &options, const Scenario &scenario, Workbench &workbench,
+                 const Clock &clock, Screenshot *screenshot)
 {
     QTextStream out(stdout);
     const std::unique_ptr<RunReport> report = createReport(options.format, out, clock);
     report->follow(workbench);
+    const RunProgress progress(StatusLine::onStandardError(), clock, scenario.endMs);
     const int code = HeadlessRun(workbench, *report, screenshot).exec();
     return code == ExitCode::ErrorsRemain && options.ignoresErrors ? ExitCode::Success : code;
 }
@@ -169,7 +175,7 @@ int play(const Options &options, Catalogues &catalogues)
                         remote ? *remote : local->link(), local.get(), scenario, log, clock);
     const std::unique_ptr<MetricsServer> metrics = serveMetrics(options, workbench);
     if (!engine)
-        return playHeadless(options, workbench, clock, nullptr);
+        return playHeadless(options, scenario, workbench, clock, nullptr);
 
     FileExport files(FileExport::usualFolder());
     OperationalLogReader logReader(log, workbench.logPlugin());
@@ -187,7 +193,7 @@ int play(const Options &options, Catalogues &catalogues)
     if (!isHeadless)
         return WindowRun(workbench, window, screenshot, options.isLooped).exec();
     window.show();
-    return playHeadless(options, workbench, clock, screenshot);
+    return playHeadless(options, scenario, workbench, clock, screenshot);
 }
 
 int run(int argc, char **argv)
