@@ -5,6 +5,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QLibraryInfo>
 #include <QLocale>
 #include <QTranslator>
 
@@ -32,6 +33,8 @@ Catalogues::Catalogues(QString language)
                              .arg(m_language));
     if (m_language != SourceLanguage)
         QLocale::setDefault(QLocale(m_language));
+    install(QLibraryInfo::path(QLibraryInfo::TranslationsPath),
+            QStringLiteral("qtbase_%1.qm").arg(m_language));
     installNew();
 }
 
@@ -41,14 +44,18 @@ void Catalogues::installNew()
 {
     const QStringList pattern{QStringLiteral("*_%1.qm").arg(m_language)};
     const QStringList names = QDir(Folder).entryList(pattern);
-    for (const QString &name : names) {
-        if (m_installed.contains(name))
-            continue;
-        auto translator = std::make_unique<QTranslator>();
-        if (!translator->load(Folder + u'/' + name))
-            continue;
-        QCoreApplication::installTranslator(translator.get());
-        m_translators.push_back(std::move(translator));
-        m_installed.insert(name);
-    }
+    for (const QString &name : names)
+        install(Folder, name);
+}
+
+void Catalogues::install(const QString &folder, const QString &name)
+{
+    if (m_installed.contains(name))
+        return;
+    auto translator = std::make_unique<QTranslator>();
+    if (!translator->load(folder + u'/' + name))
+        return;
+    QCoreApplication::installTranslator(translator.get());
+    m_translators.push_back(std::move(translator));
+    m_installed.insert(name);
 }

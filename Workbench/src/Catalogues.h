@@ -9,7 +9,8 @@
 
 class QTranslator;
 
-/// The catalogues of one language, from wherever a resource offers one: ":/i18n/Name_language.qm".
+/// The catalogues of one language, from wherever a resource offers one: ":/i18n/Name_language.qm",
+/// and Qt's own, if it is installed.
 class Catalogues
 {
 public:
@@ -24,6 +25,8 @@ public:
     void installNew();
 
 private:
+    void install(const QString &folder, const QString &name);
+
     const QString m_language;
     QSet<QString> m_installed; // file names
     std::vector<std::unique_ptr<QTranslator>> m_translators;

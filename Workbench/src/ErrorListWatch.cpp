@@ -11,6 +11,10 @@ ErrorListWatch::ErrorListWatch(QAbstractItemModel &model, QObject *parent)
     m_typeRole = roles.key("errorTypeRole");
     m_nameRole = roles.key("errorNameRole");
     m_originRole = roles.key("triggerDeviceNameRole");
+    m_stationRole = roles.key("stationIDRole");
+    m_deviceRole = roles.key("deviceIDRole");
+    m_categoryRole = roles.key("errorCategoryRole");
+    m_timeRole = roles.key("timestampRole");
 
     connect(&model, &QAbstractItemModel::rowsInserted, this,
             [this](const QModelIndex &, int first, int last) {
@@ -37,8 +41,10 @@ QList<ListedError> ErrorListWatch::listed() const
 ListedError ErrorListWatch::errorAt(int row) const
 {
     const QModelIndex index = m_model.index(row, 0);
-    return {index.data(m_keyRole).toString(), index.data(m_typeRole).toInt(),
-            index.data(m_nameRole).toString(), index.data(m_originRole).toString()};
+    return {index.data(m_keyRole).toString(),     index.data(m_typeRole).toInt(),
+            index.data(m_nameRole).toString(),    index.data(m_originRole).toString(),
+            index.data(m_stationRole).toString(), index.data(m_deviceRole).toString(),
+            index.data(m_categoryRole).toInt(),   index.data(m_timeRole).toLongLong()};
 }
 
 void ErrorListWatch::forRows(int first, int last,

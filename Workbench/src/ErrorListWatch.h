@@ -12,6 +12,10 @@ struct ListedError
     int type = 0;
     QString name;   ///< what is wrong, in words
     QString origin; ///< which device it is about, in words
+    QString stationId = {};
+    QString deviceId = {}; ///< of the camera, or which part of the station; may be empty
+    int category = 0;      ///< 1 an error of a station, 2 of a camera
+    qint64 timeMs = 0;     ///< when it was raised, in milliseconds since the epoch
 };
 
 /// Tells of each change of an error list as of a single error. The list's roles are found by name.
@@ -41,6 +45,10 @@ private:
     int m_typeRole;
     int m_nameRole;
     int m_originRole;
+    int m_stationRole;
+    int m_deviceRole;
+    int m_categoryRole;
+    int m_timeRole;
 };
 
 #endif

@@ -1,15 +1,13 @@
 #include "HeadlessRun.h"
 
-#include "ConsoleReport.h"
+#include "RunReport.h"
 #include "Screenshot.h"
 #include "ServerLink.h"
 #include "Workbench.h"
 
 #include <QCoreApplication>
 
-#include <cstdlib>
-
-HeadlessRun::HeadlessRun(Workbench &workbench, ConsoleReport &report, Screenshot *screenshot)
+HeadlessRun::HeadlessRun(Workbench &workbench, RunReport &report, Screenshot *screenshot)
     : m_workbench(workbench)
     , m_report(report)
     , m_screenshot(screenshot)
@@ -22,7 +20,7 @@ HeadlessRun::HeadlessRun(Workbench &workbench, ConsoleReport &report, Screenshot
     connect(&workbench.driver(), &ScenarioDriver::finished, &m_quiet, &QuietPeriod::start);
     connect(&m_quiet, &QuietPeriod::reached, this, &HeadlessRun::end);
     connect(&workbench.link(), &ServerLink::refused, this, [this] {
-        m_exitCode = EXIT_FAILURE;
+        m_exitCode = ExitCode::Failure;
         end();
     });
 }
@@ -37,17 +35,17 @@ void HeadlessRun::takeScreenshot()
 {
     if (!m_screenshot || m_screenshot->isTaken())
         return;
-    if (m_screenshot->take()) {
-        m_report.writeLine(tr("picture"), tr("saved as %1").arg(m_screenshot->fileName()));
-    } else {
-        m_report.writeLine(tr("picture"), tr("%1 cannot be written").arg(m_screenshot->fileName()));
-        m_exitCode = EXIT_FAILURE;
-    }
+    const bool isSaved = m_screenshot->take();
+    m_report.writePicture(m_screenshot->fileName(), isSaved);
+    if (!isSaved)
+        m_exitCode = ExitCode::Failure;
 }
 
 void HeadlessRun::end()
 {
     takeScreenshot();
     m_report.writeSummary();
+    if (m_exitCode == ExitCode::Success && !m_workbench.errorWatch().listed().isEmpty())
+        m_exitCode = ExitCode::ErrorsRemain;
     QCoreApplication::exit(m_exitCode);
 }

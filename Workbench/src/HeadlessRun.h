@@ -1,11 +1,12 @@
 #ifndef HEADLESSRUN_H
 #define HEADLESSRUN_H
 
+#include "ExitCode.h"
 #include "QuietPeriod.h"
 
 #include <QObject>
 
-class ConsoleReport;
+class RunReport;
 class Screenshot;
 class Workbench;
 
@@ -18,10 +19,11 @@ class HeadlessRun : public QObject
 public:
     /// @param report     follows the Workbench already
     /// @param screenshot to be taken on the way or in the end, or null
-    HeadlessRun(Workbench &workbench, ConsoleReport &report, Screenshot *screenshot);
+    HeadlessRun(Workbench &workbench, RunReport &report, Screenshot *screenshot);
 
-    /// Runs the application. Returns its exit code: 0, or 1 when the picture could not be written
-    /// or the server refused this client.
+    /// Runs the application. Returns its exit code: ErrorsRemain when the error list is not empty
+    /// in the end, Failure when the picture could not be written or the server refused this client,
+    /// which weighs more.
     int exec();
 
 private:
@@ -29,10 +31,10 @@ private:
     void end();
 
     Workbench &m_workbench;
-    ConsoleReport &m_report;
+    RunReport &m_report;
     Screenshot *m_screenshot;
     QuietPeriod m_quiet;
-    int m_exitCode = 0;
+    int m_exitCode = ExitCode::Success;
 };
 
 #endif

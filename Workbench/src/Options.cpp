@@ -1,6 +1,7 @@
 #include "Options.h"
 
 #include "BundledFile.h"
+#include "HelpText.h"
 #include "InputError.h"
 
 #include <QCommandLineParser>
@@ -26,11 +27,14 @@ public:
     QString help() const;
 
 private:
+    QList<OptionGroup> optionGroups() const;
     void readServer(Options &options) const;
     void readReplay(Options &options) const;
     void expectWithoutServer(const QCommandLineOption &option) const;
     double number(const QCommandLineOption &option, double greatest) const;
     quint32 seed() const;
+    ReportFormat format() const;
+    quint16 metricsPort() const;
 
     const QCommandLineOption m_headless{
         QStringLiteral("headless"),
@@ -55,6 +59,13 @@ private:
         tr("Decides which cameras a storm takes, and in which order. The same seed plays the same "
            "storm."),
         tr("number"), QString::number(DefaultScenarioSeed)};
+    const QCommandLineOption m_format{
+        QStringLiteral("format"),
+        tr("Without a window: print text, or json with one object a line for programs."),
+        tr("name"), QStringLiteral("text")};
+    const QCommandLineOption m_ignoreErrors{
+        QStringLiteral("ignore-errors"),
+        tr("Without a window: end with exit code 0 although errors are listed in the end.")};
     const QCommandLineOption m_loop{QStringLiteral("loop"),
                                     tr("Start the scenario again whenever it has ended.")};
     const QCommandLineOption m_screenshot{
@@ -77,6 +88,12 @@ private:
         tr("Keep the operational log in this SQLite file. Without it the log is kept among the "
            "user's data, or only in memory when there is no window."),
         tr("file")};
+    const QCommandLineOption m_metrics{
+        QStringLiteral("metrics"),
+        tr("Offer figures for monitoring, as OpenMetrics text at http://127.0.0.1:PORT/metrics. "
+           "With "
+           "0 a free port is chosen. The address is printed on standard error."),
+        tr("port")};
     const QCommandLineOption m_plugin{
         QStringLiteral("plugin"),
         tr("Load this plug-in file instead of the one that was built with this program."),
@@ -114,21 +131,20 @@ private:
 
 OptionParser::OptionParser()
 {
-    m_parser.setApplicationDescription(
-        tr("Runs the system-monitor plug-in in a stand-in for its host: with a site of recording "
-           "stations and cameras, a scenario of what happens there, and this machine's own load.\n"
-           "\n"
-           "  workbench                                       show the dashboard\n"
-           "  workbench --headless --scenario everything      print what happens\n"
-           "  workbench --headless --screenshot picture.png   save a picture as well\n"
-           "  workbench --server ws://127.0.0.1:8765          show the site of a site-server\n"
-           "\n"
-           "Exit codes: 0 all went well, 1 the work could not be done, 2 an option or a file is "
-           "wrong."));
-    m_parser.addOption(m_page);
-    m_parser.addOptions({m_headless, m_site, m_scenario, m_speed, m_seed, m_loop, m_screenshot,
-                         m_screenshotAt, m_language, m_log, m_plugin, m_server, m_token, m_store,
-                         m_record, m_replay, m_help, m_version});
+    const QList<OptionGroup> groups = optionGroups();
+    for (const OptionGroup &group : groups)
+        m_parser.addOptions(group.options);
+}
+
+QList<OptionGroup> OptionParser::optionGroups() const
+{
+    return {
+        {tr("What is shown:"),
+         {m_site, m_scenario, m_speed, m_seed, m_loop, m_replay, m_page, m_language}},
+        {tr("Site server:"), {m_server, m_token}},
+        {tr("Files that are written:"), {m_screenshot, m_screenshotAt, m_log, m_store, m_record}},
+        {tr("For scripts and monitoring:"), {m_headless, m_format, m_ignoreErrors, m_metrics}},
+        {tr("Others:"), {m_plugin, m_help, m_version}}};
 }
 
 Options OptionParser::parse(const QStringList &arguments)
@@ -142,7 +158,11 @@ Options OptionParser::parse(const QStringList &arguments)
     options.wantsHelp = m_parser.isSet(m_help);
     options.wantsVersion = m_parser.isSet(m_version);
     options.isHeadless = m_parser.isSet(m_headless);
+    options.format = format();
+    if (m_parser.isSet(m_metrics))
+        options.metricsPort = metricsPort();
     options.isLooped = m_parser.isSet(m_loop);
+    options.ignoresErrors = m_parser.isSet(m_ignoreErrors);
     options.siteFile = bundledOrFile(QStringLiteral("sites"), m_parser.value(m_site));
     const bool onlyWatches = m_parser.isSet(m_server) && !m_parser.isSet(m_scenario);
     options.scenarioFile =
@@ -213,7 +233,31 @@ void OptionParser::expectWithoutServer(const QCommandLineOption &option) const
 
 QString OptionParser::help() const
 {
-    return m_parser.helpText();
+    QStringList sections{
+        tr("Usage: workbench [options]\n"),
+        tr("Runs the system-monitor plug-in in a stand-in for its host: with a site of\n"
+           "recording stations and cameras, a scenario of what happens there, and this\n"
+           "machine's own load.\n")};
+    const QList<OptionGroup> groups = optionGroups();
+    for (const OptionGroup &group : groups)
+        sections.append(helpText(group));
+    sections.append(tr("Examples:\n"
+                       "  workbench\n"
+                       "      show the dashboard with the bundled site and scenario\n"
+                       "  workbench --headless --scenario everything --speed 6\n"
+                       "      print every kind of happening, six times as fast\n"
+                       "  workbench --headless --screenshot picture.png\n"
+                       "      save a picture of the dashboard as well\n"
+                       "  workbench --server ws://127.0.0.1:8765\n"
+                       "      show the site of a site-server\n"
+                       "  workbench --headless --format json --ignore-errors\n"
+                       "      print one JSON object a line for a program to read\n"));
+    sections.append(tr("Exit codes:\n"
+                       "  0  all went well\n"
+                       "  1  errors are listed at the end of a run without a window\n"
+                       "  2  an option or a file is wrong\n"
+                       "  3  the work could not be done\n"));
+    return sections.join(u'\n');
 }
 
 double OptionParser::number(const QCommandLineOption &option, double greatest) const
@@ -238,6 +282,26 @@ quint32 OptionParser::seed() const
         throw InputError(
             tr("--seed: expected a whole number from 0 to 4294967295, found \"%1\".").arg(text));
     return seed;
+}
+
+ReportFormat OptionParser::format() const
+{
+    const QString name = m_parser.value(m_format);
+    if (name == QStringLiteral("text"))
+        return ReportFormat::Text;
+    if (name == QStringLiteral("json"))
+        return ReportFormat::Json;
+    throw InputError(tr("--format: expected text or json, found \"%1\".").arg(name));
+}
+
+quint16 OptionParser::metricsPort() const
+{
+    bool isPort = false;
+    const QString text = m_parser.value(m_metrics);
+    const quint16 port = text.toUShort(&isPort);
+    if (!isPort)
+        throw InputError(tr("--metrics: expected a port from 0 to 65535, found \"%1\".").arg(text));
+    return port;
 }
 
 } // namespace

@@ -9,6 +9,9 @@
 
 #include <optional>
 
+/// How a run without a window tells what happens.
+enum class ReportFormat { Text, Json };
+
 /// What the user asks for on the command line.
 struct Options
 {
@@ -21,15 +24,18 @@ struct Options
     QString screenshotFile;               ///< empty for none
     std::optional<qint64> screenshotAtMs; ///< of the scenario; the scenario decides without it
     std::optional<QString> logFile;
-    QUrl serverUrl;    ///< empty for a server in this process
-    QString tokenFile; ///< for the server, empty for none
-    QString storeFile; ///< of the server in this process, empty for none
+    std::optional<quint16> metricsPort; ///< 0 for one that is free
+    QUrl serverUrl;                     ///< empty for a server in this process
+    QString tokenFile;                  ///< for the server, empty for none
+    QString storeFile;                  ///< of the server in this process, empty for none
     QString language;
+    ReportFormat format = ReportFormat::Text; ///< without a window
     double speed = 1.0;
     quint32 seed = DefaultScenarioSeed;
     bool isFast = false; ///< replays as fast as possible, whatever the speed
     bool isHeadless = false;
     bool isLooped = false;
+    bool ignoresErrors = false; ///< in the exit code
     bool wantsHelp = false;
     bool wantsVersion = false;
 };

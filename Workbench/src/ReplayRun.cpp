@@ -1,6 +1,7 @@
 #include "ReplayRun.h"
 
 #include "ErrorListText.h"
+#include "ExitCode.h"
 #include "InputError.h"
 #include "JournalPlayer.h"
 
@@ -52,5 +53,5 @@ int ReplayRun::writeOutcome()
               << '\n'
               << m_journal.errors->join(u'\n');
     m_out << Qt::endl;
-    return !m_journal.errors || isSame ? EXIT_SUCCESS : EXIT_FAILURE;
+    return !m_journal.errors || isSame ? ExitCode::Success : ExitCode::Failure;
 }

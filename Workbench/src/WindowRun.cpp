@@ -1,14 +1,13 @@
 #include "WindowRun.h"
 
 #include "DashboardWindow.h"
+#include "ExitCode.h"
 #include "Screenshot.h"
 #include "ServerLink.h"
 #include "Workbench.h"
 
 #include <QCoreApplication>
 #include <QDebug>
-
-#include <cstdlib>
 
 WindowRun::WindowRun(Workbench &workbench, DashboardWindow &window, Screenshot *screenshot,
                      bool isLooped)
@@ -29,7 +28,7 @@ int WindowRun::exec()
     m_window.show();
     m_workbench.start();
     const int code = QCoreApplication::exec();
-    return m_hasFailed ? EXIT_FAILURE : code;
+    return m_hasFailed ? ExitCode::Failure : code;
 }
 
 void WindowRun::takeScreenshot()

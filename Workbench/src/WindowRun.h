@@ -17,8 +17,8 @@ public:
     /// @param isLooped   whether the scenario starts again whenever it has ended
     WindowRun(Workbench &workbench, DashboardWindow &window, Screenshot *screenshot, bool isLooped);
 
-    /// Shows the window and runs the application. Returns its exit code: 0, or 1 when the picture
-    /// could not be written.
+    /// Shows the window and runs the application. Returns its exit code: Success, or Failure
+    /// when the picture could not be written.
     int exec();
 
 private:

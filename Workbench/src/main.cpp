@@ -4,13 +4,16 @@
 #include "DashboardFeed.h"
 #include "DashboardWindow.h"
 #include "Display.h"
+#include "ExitCode.h"
 #include "FileExport.h"
 #include "HeadlessRun.h"
 #include "HostError.h"
 #include "InputError.h"
 #include "JournalPlayer.h"
 #include "JournalReader.h"
+#include "JsonReport.h"
 #include "LocalSite.h"
+#include "MetricsServer.h"
 #include "OperationalLogReader.h"
 #include "Options.h"
 #include "PluginHost.h"
@@ -18,10 +21,12 @@
 #include "Recording.h"
 #include "RemoteServerLink.h"
 #include "ReplayRun.h"
+#include "RunProgress.h"
 #include "ScaledClock.h"
 #include "ScenarioFile.h"
 #include "Screenshot.h"
 #include "SiteFile.h"
+#include "SlowNotice.h"
 #include "SnoozeStore.h"
 #include "Thresholds.h"
 #include "WindowRun.h"
@@ -35,12 +40,9 @@
 #include <QTextStream>
 
 #include <algorithm>
-#include <cstdlib>
 #include <memory>
 
 namespace {
-
-constexpr int ExitBadInput = 2;
 
 QStringList toStringList(int argc, char **argv)
 {
@@ -67,6 +69,9 @@ std::unique_ptr<QCoreApplication> createApplication(const Options &options, int 
 
 Site readSite(const Options &options)
 {
+    const SlowNotice notice(
+        StatusLine::onStandardError(),
+        QCoreApplication::translate("main", "reading %1").arg(options.siteFile));
     Site site = readSiteFile(options.siteFile);
     site.stations.push_back(LocalStation::station());
     return site;
@@ -136,12 +141,34 @@ int finished(Recording *recording, int exitCode)
     return exitCode;
 }
 
-int playHeadless(Workbench &workbench, const Clock &clock, Screenshot *screenshot)
+// Null when nobody asks for metrics.
+std::unique_ptr<MetricsServer> serveMetrics(const Options &options, Workbench &workbench)
+{
+    if (!options.metricsPort)
+        return nullptr;
+    auto server = std::make_unique<MetricsServer>(workbench, *options.metricsPort);
+    const QString url = QStringLiteral("http://127.0.0.1:%1/metrics").arg(server->port());
+    QTextStream(stderr) << QCoreApplication::translate("main", "Metrics are at %1").arg(url)
+                        << Qt::endl;
+    return server;
+}
+
+std::unique_ptr<RunReport> createReport(ReportFormat format, QTextStream &out, const Clock &clock)
+{
+    if (format == ReportFormat::Json)
+        return std::make_unique<JsonReport>(out, clock);
+    return std::make_unique<ConsoleReport>(out, clock);
+}
+
+int playHeadless(const Options &options, const Scenario &scenario, Workbench &workbench,
+                 const Clock &clock, Screenshot *screenshot)
 {
     QTextStream out(stdout);
-    ConsoleReport report(out, clock);
-    report.follow(workbench);
-    return HeadlessRun(workbench, report, screenshot).exec();
+    const std::unique_ptr<RunReport> report = createReport(options.format, out, clock);
+    report->follow(workbench);
+    const RunProgress progress(StatusLine::onStandardError(), clock, scenario.endMs);
+    const int code = HeadlessRun(workbench, *report, screenshot).exec();
+    return code == ExitCode::ErrorsRemain && options.ignoresErrors ? ExitCode::Success : code;
 }
 
 int play(const Options &options, Catalogues &catalogues)
@@ -149,6 +176,9 @@ int play(const Options &options, Catalogues &catalogues)
     const bool isHeadless = runsHeadless(options);
     if (isHeadless && options.isLooped)
         throw InputError(QCoreApplication::translate("main", "--loop: expected a window."));
+    if (!isHeadless && options.format != ReportFormat::Text)
+        throw InputError(
+            QCoreApplication::translate("main", "--format: expected --headless as well."));
     const Site site = readSite(options);
     const Scenario scenario = readScenario(options, site);
 
@@ -166,8 +196,10 @@ int play(const Options &options, Catalogues &catalogues)
     const std::unique_ptr<ServerLink> remote = openRemoteLink(options, clock);
     Workbench workbench(host, engine ? engine->rootContext() : nullptr,
                         remote ? *remote : local->link(), local.get(), scenario, log, clock);
+    const std::unique_ptr<MetricsServer> metrics = serveMetrics(options, workbench);
     if (!engine)
-        return finished(recording.get(), playHeadless(workbench, clock, nullptr));
+        return finished(recording.get(),
+                        playHeadless(options, scenario, workbench, clock, nullptr));
 
     FileExport files(FileExport::usualFolder());
     OperationalLogReader logReader(log, workbench.logPlugin());
@@ -186,7 +218,7 @@ int play(const Options &options, Catalogues &catalogues)
         return finished(recording.get(),
                         WindowRun(workbench, window, screenshot, options.isLooped).exec());
     window.show();
-    return finished(recording.get(), playHeadless(workbench, clock, screenshot));
+    return finished(recording.get(), playHeadless(options, scenario, workbench, clock, screenshot));
 }
 
 int replay(const Options &options, Catalogues &catalogues)
@@ -230,7 +262,7 @@ int run(int argc, char **argv)
     else
         return options.replayFile.isEmpty() ? play(options, catalogues)
                                             : replay(options, catalogues);
-    return EXIT_SUCCESS;
+    return ExitCode::Success;
 }
 
 void complain(const QString &message)
@@ -248,9 +280,9 @@ int main(int argc, char **argv)
         return run(argc, argv);
     } catch (const InputError &error) {
         complain(error.message());
-        return ExitBadInput;
+        return ExitCode::BadInput;
     } catch (const HostError &error) {
         complain(error.message());
-        return EXIT_FAILURE;
+        return ExitCode::Failure;
     }
 }

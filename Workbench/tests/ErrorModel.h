@@ -7,15 +7,14 @@
 class ErrorModel : public QStandardItemModel
 {
 public:
-    enum Role : int { Key = 1001, Type, Name, Origin, Other };
+    enum Role : int { Key = 1001, Type, Name, Origin, Station, Device, Category, Time };
 
     QHash<int, QByteArray> roleNames() const override
     {
-        return {{Key, "uniqueIDRole"},
-                {Type, "errorTypeRole"},
-                {Name, "errorNameRole"},
-                {Origin, "triggerDeviceNameRole"},
-                {Other, "timestampRole"}};
+        return {{Key, "uniqueIDRole"},           {Type, "errorTypeRole"},
+                {Name, "errorNameRole"},         {Origin, "triggerDeviceNameRole"},
+                {Station, "stationIDRole"},      {Device, "deviceIDRole"},
+                {Category, "errorCategoryRole"}, {Time, "timestampRole"}};
     }
 
     void add(const QString &key, int type, const QString &name, const QString &origin)

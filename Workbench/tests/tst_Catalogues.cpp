@@ -16,6 +16,7 @@ class tst_Catalogues : public QObject
 private Q_SLOTS:
     void englishIsTheSource();
     void germanIsInstalled();
+    void wordsOfQtAreGermanToo();
     void installsEachCatalogueOnce();
     void unknownLanguagesAreRefused_data();
     void unknownLanguagesAreRefused();
@@ -48,6 +49,19 @@ void tst_Catalogues::germanIsInstalled()
         QVERIFY(optionsHelp().contains(QStringLiteral("Rückgabewerte")));
     }
     QCOMPARE(summary(), QStringLiteral("Summary"));
+    QLocale::setDefault(before);
+}
+
+void tst_Catalogues::wordsOfQtAreGermanToo()
+{
+    const QLocale before;
+    {
+        const Catalogues catalogues(QStringLiteral("de"));
+        QCOMPARE(inputFailure([] {
+                     parseOptions({QStringLiteral("workbench"), QStringLiteral("--fast")});
+                 }),
+                 QStringLiteral("Unbekannte Option 'fast'."));
+    }
     QLocale::setDefault(before);
 }
 

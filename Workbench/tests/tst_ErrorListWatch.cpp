@@ -13,6 +13,7 @@ private Q_SLOTS:
     void tellsOfEachChange();
     void tellsOfEveryRowOfABurst();
     void listsWhatThereIs();
+    void readsEveryRole();
 
 private:
     void watch(const ErrorListWatch &watch);
@@ -68,6 +69,26 @@ void tst_ErrorListWatch::listsWhatThereIs()
     model.add(QStringLiteral("a"), 3, QStringLiteral("N"), QStringLiteral("O"));
     QCOMPARE(errors.listed().size(), 1);
     QCOMPARE(errors.listed().at(0).key, QStringLiteral("a"));
+}
+
+void tst_ErrorListWatch::readsEveryRole()
+{
+    ErrorModel model;
+    model.add(QStringLiteral("3_st/cam"), 3, QStringLiteral("Camera"), QStringLiteral("Gate"));
+    const QModelIndex row = model.index(0, 0);
+    model.setData(row, QStringLiteral("st"), ErrorModel::Station);
+    model.setData(row, QStringLiteral("st/cam"), ErrorModel::Device);
+    model.setData(row, 2, ErrorModel::Category);
+    model.setData(row, qint64(1'780'660'800'123), ErrorModel::Time);
+    const ListedError error = ErrorListWatch(model).listed().value(0);
+    QCOMPARE(error.key, QStringLiteral("3_st/cam"));
+    QCOMPARE(error.type, 3);
+    QCOMPARE(error.name, QStringLiteral("Camera"));
+    QCOMPARE(error.origin, QStringLiteral("Gate"));
+    QCOMPARE(error.stationId, QStringLiteral("st"));
+    QCOMPARE(error.deviceId, QStringLiteral("st/cam"));
+    QCOMPARE(error.category, 2);
+    QCOMPARE(error.timeMs, qint64(1'780'660'800'123));
 }
 
 QTEST_GUILESS_MAIN(tst_ErrorListWatch)

@@ -2,6 +2,8 @@
 
 #include "ConsoleReport.h"
 #include "DashboardWindow.h"
+#include "ErrorModel.h"
+#include "ExitCode.h"
 #include "Screenshot.h"
 #include "WorkbenchFixture.h"
 
@@ -11,7 +13,17 @@
 #include <QTextStream>
 #include <QTimer>
 
+#include <functional>
 #include <memory>
+
+namespace {
+
+void addError(ErrorModel &errors)
+{
+    errors.add(QStringLiteral("5_a"), 5, QStringLiteral("Volume"), QStringLiteral("A"));
+}
+
+} // namespace
 
 class tst_HeadlessRun : public QObject
 {
@@ -24,6 +36,9 @@ private Q_SLOTS:
     void screenshotIsTakenWhenItIsDue();
     void screenshotIsTakenAtTheEndOtherwise();
     void screenshotThatCannotBeWrittenShowsInTheExitCode();
+    void errorsThatRemainShowInTheExitCode();
+    void errorsThatWereClearedDoNotShowInTheExitCode();
+    void failureOutweighsErrorsThatRemain();
     void refusalEndsTheRun();
 
 private:
@@ -34,12 +49,14 @@ private:
     std::unique_ptr<WorkbenchFixture> m_fixture;
     std::unique_ptr<DashboardWindow> m_window;
     QString m_output;
+    std::function<void(ErrorModel &)> m_atEnd; // is done to the error list
 };
 
 void tst_HeadlessRun::cleanup()
 {
     m_window.reset();
     m_fixture.reset();
+    m_atEnd = nullptr;
 }
 
 int tst_HeadlessRun::run(const Scenario &scenario, const QString &picture)
@@ -56,7 +73,11 @@ int tst_HeadlessRun::run(const Scenario &scenario, const QString &picture)
     ConsoleReport report(out, m_fixture->clock);
     report.follow(m_fixture->workbench);
     HeadlessRun run(m_fixture->workbench, report, picture.isEmpty() ? nullptr : &screenshot);
-    QTimer::singleShot(0, this, [this] { m_fixture->clock.advance(60'000); });
+    QTimer::singleShot(0, this, [this] {
+        m_fixture->clock.advance(60'000);
+        if (m_atEnd)
+            m_atEnd(static_cast<ErrorModel &>(m_fixture->workbench.surface().errorModel()));
+    });
     return run.exec();
 }
 
@@ -91,9 +112,31 @@ void tst_HeadlessRun::screenshotIsTakenAtTheEndOtherwise()
 void tst_HeadlessRun::screenshotThatCannotBeWrittenShowsInTheExitCode()
 {
     const QString file = m_directory.filePath(QStringLiteral("picture.unknown"));
-    QCOMPARE(run({{}, {}, 0}, file), 1);
+    QCOMPARE(run({{}, {}, 0}, file), ExitCode::Failure);
     QVERIFY(m_output.contains(file + QStringLiteral(" cannot be written")));
     QVERIFY(m_output.contains(QStringLiteral("Summary")));
+}
+
+void tst_HeadlessRun::errorsThatRemainShowInTheExitCode()
+{
+    m_atEnd = [](ErrorModel &errors) { addError(errors); };
+    QCOMPARE(run({{}, {}, 1000}), ExitCode::ErrorsRemain);
+}
+
+void tst_HeadlessRun::errorsThatWereClearedDoNotShowInTheExitCode()
+{
+    m_atEnd = [](ErrorModel &errors) {
+        addError(errors);
+        errors.removeRow(0);
+    };
+    QCOMPARE(run({{}, {}, 1000}), ExitCode::Success);
+}
+
+void tst_HeadlessRun::failureOutweighsErrorsThatRemain()
+{
+    m_atEnd = [](ErrorModel &errors) { addError(errors); };
+    QCOMPARE(run({{}, {}, 0}, m_directory.filePath(QStringLiteral("picture.unknown"))),
+             ExitCode::Failure);
 }
 
 void tst_HeadlessRun::refusalEndsTheRun()
@@ -101,7 +144,7 @@ void tst_HeadlessRun::refusalEndsTheRun()
     QTimer::singleShot(0, this, [this] {
         Q_EMIT m_fixture->workbench.link().refused(QStringLiteral("the token is wrong"));
     });
-    QCOMPARE(run({{}, {}, 600'000}), 1);
+    QCOMPARE(run({{}, {}, 600'000}), ExitCode::Failure);
     QVERIFY(m_output.contains(QStringLiteral("refuses this client: the token is wrong")));
     QVERIFY(m_output.contains(QStringLiteral("Summary")));
 }

@@ -29,6 +29,7 @@ private Q_SLOTS:
     void wrongOptionsAreRefused_data();
     void wrongOptionsAreRefused();
     void helpNamesEveryOption();
+    void helpFitsATerminal();
     void defaultPluginIsBesideTheProgram();
 };
 
@@ -42,6 +43,7 @@ void tst_Options::everythingHasADefault()
     QCOMPARE(options.screenshotFile, QString());
     QVERIFY(!options.screenshotAtMs);
     QVERIFY(!options.logFile);
+    QVERIFY(!options.metricsPort);
     QVERIFY(options.serverUrl.isEmpty());
     QCOMPARE(options.tokenFile, QString());
     QCOMPARE(options.storeFile, QString());
@@ -50,6 +52,8 @@ void tst_Options::everythingHasADefault()
     QCOMPARE(options.seed, DefaultScenarioSeed);
     QVERIFY(!options.isHeadless);
     QVERIFY(!options.isLooped);
+    QVERIFY(!options.ignoresErrors);
+    QCOMPARE(options.format, ReportFormat::Text);
     QVERIFY(!options.wantsHelp);
     QVERIFY(!options.wantsVersion);
 }
@@ -58,8 +62,8 @@ void tst_Options::readsEveryOption()
 {
     const QString arguments = QStringLiteral(
         "--headless --loop --site s.json --scenario c.json --plugin p.so --screenshot x.png "
-        "--screenshot-at 1.5 --log l.sqlite --language de --speed 2.5 "
-        "--seed 4294967295 --store k.sqlite --help --version");
+        "--screenshot-at 1.5 --ignore-errors --format json --metrics 9100 --log l.sqlite "
+        "--language de --speed 2.5 --seed 4294967295 --store k.sqlite --help --version");
     const Options options = parse(arguments.split(u' '));
     QCOMPARE(options.siteFile, QStringLiteral("s.json"));
     QCOMPARE(options.scenarioFile, QStringLiteral("c.json"));
@@ -73,6 +77,9 @@ void tst_Options::readsEveryOption()
     QCOMPARE(options.seed, 4'294'967'295U);
     QVERIFY(options.isHeadless);
     QVERIFY(options.isLooped);
+    QVERIFY(options.ignoresErrors);
+    QCOMPARE(options.metricsPort, std::optional(quint16(9100)));
+    QCOMPARE(options.format, ReportFormat::Json);
     QVERIFY(options.wantsHelp);
     QVERIFY(options.wantsVersion);
 }
@@ -146,6 +153,15 @@ void tst_Options::wrongOptionsAreRefused_data()
             << QStringLiteral("--replay j --%1 1").arg(name)
             << QStringLiteral("--%1: expected without --replay.").arg(name);
     }
+    for (const char *const port : {"-1", "65536", "http", "", "80.5"}) {
+        const QString text = QString::fromLatin1(port);
+        QTest::addRow("port '%s'", port)
+            << QStringLiteral("--metrics=") + text
+            << QStringLiteral("--metrics: expected a port from 0 to 65535, found \"%1\".")
+                   .arg(text);
+    }
+    QTest::newRow("format") << QStringLiteral("--format xml")
+                            << QStringLiteral("--format: expected text or json, found \"xml\".");
     QTest::newRow("page that is not there")
         << QStringLiteral("--page none.qml")
         << QStringLiteral("--page: expected a QML file, found \"none.qml\".");
@@ -184,11 +200,19 @@ void tst_Options::helpNamesEveryOption()
 {
     const QString help = optionsHelp();
     for (const char *const option :
-         {"--headless", "--site", "--scenario", "--speed", "--seed", "--loop", "--screenshot",
-          "--screenshot-at", "--language", "--page", "--log", "--plugin", "--server",
-          "--token-file", "--store", "--record", "--replay", "--help", "--version"})
-        QVERIFY2(help.contains(QString::fromLatin1(option)), option);
+         "--screenshot-at 1.5 --ignore-errors --format json --metrics 9100 --log l.sqlite "
+         "--language de --speed 2.5 --seed 4294967295 --store k.sqlite --help --version")
+        ;
+    QVERIFY2(help.contains(QString::fromLatin1(option)), option);
     QVERIFY(help.contains(QStringLiteral("Exit codes")));
+    QVERIFY(help.contains(QStringLiteral("Examples")));
+}
+
+void tst_Options::helpFitsATerminal()
+{
+    const QStringList lines = optionsHelp().split(u'\n');
+    for (const QString &line : lines)
+        QVERIFY2(line.size() < 80, qPrintable(line));
 }
 
 void tst_Options::defaultPluginIsBesideTheProgram()

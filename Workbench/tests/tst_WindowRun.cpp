@@ -1,6 +1,7 @@
 #include "WindowRun.h"
 
 #include "DashboardWindow.h"
+#include "ExitCode.h"
 #include "Screenshot.h"
 #include "WorkbenchFixture.h"
 
@@ -103,7 +104,7 @@ void tst_WindowRun::screenshotThatCannotBeWrittenShowsInTheExitCode()
     prepare({{}, {}, 0});
     m_screenshot = std::make_unique<Screenshot>(*m_window, file("picture.unknown"));
     QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("cannot be written")));
-    QCOMPARE(runFor(10), 1);
+    QCOMPARE(runFor(10), ExitCode::Failure);
 }
 
 void tst_WindowRun::loopStartsTheScenarioAgain()

@@ -1,9 +1,14 @@
 #include "TextFile.h"
 
 #include <QImage>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QSet>
+#include <QTcpServer>
+#include <QTcpSocket>
 #include <QTest>
 
 namespace {
@@ -20,7 +25,8 @@ struct Outcome
 // Lines of this machine's own load come and go as they please.
 bool isOfThisMachine(const QString &line)
 {
-    return line.contains(QStringLiteral("_this-machine"));
+    return line.contains(QStringLiteral("_this-machine"))
+           && !line.contains(QStringLiteral("\"summary\""));
 }
 
 Outcome run(const QStringList &arguments)
@@ -75,6 +81,9 @@ private Q_SLOTS:
     void showsAPageOfOnesOwn();
     void walkAfterTheEndIsWaitedFor();
     void speaksGerman();
+    void jsonIsAllThatIsPrinted();
+    void metricsAreServedWhileItRuns();
+    void portInUseIsRefused();
     void helpAndVersionNeedNothing();
     void wrongInputIsRefused_data();
     void wrongInputIsRefused();
@@ -84,7 +93,8 @@ private Q_SLOTS:
 
 void tst_WorkbenchProgram::everythingScenarioShowsEveryKindOfHappening()
 {
-    const Outcome outcome = run(options("--headless --scenario everything --speed 6"));
+    const Outcome outcome =
+        run(options("--headless --ignore-errors --scenario everything --speed 6"));
     QCOMPARE(outcome.exitCode, 0);
     QCOMPARE(outcome.errors, QString());
 
@@ -158,8 +168,9 @@ void tst_WorkbenchProgram::defaultScenarioLeavesAPictureAndALog()
     const QTemporaryDir directory;
     const QString picture = directory.filePath(QStringLiteral("dashboard.png"));
     const QString log = directory.filePath(QStringLiteral("log.sqlite"));
-    const Outcome outcome = run(options("--headless --speed 8 --screenshot-at 50 --screenshot")
-                                << picture << QStringLiteral("--log") << log);
+    const Outcome outcome =
+        run(options("--headless --ignore-errors --speed 8 --screenshot-at 50 --screenshot")
+            << picture << QStringLiteral("--log") << log);
     QCOMPARE(outcome.exitCode, 0);
     QCOMPARE(outcome.errors, QString());
     QVERIFY(outcome.has(QStringLiteral("picture   saved as ") + picture));
@@ -181,9 +192,10 @@ void tst_WorkbenchProgram::showsAPageOfOnesOwn()
     const QString picture = directory.filePath(QStringLiteral("page.png"));
     const TextFile scenario(
         R"({"events": [{"at": 0, "do": "cameraDown", "camera": "office/lobby"}]})");
-    const Outcome outcome = run({QStringLiteral("--headless"), QStringLiteral("--page"),
-                                 QStringLiteral(EXAMPLE_PAGE), QStringLiteral("--scenario"),
-                                 scenario.path(), QStringLiteral("--screenshot"), picture});
+    const Outcome outcome =
+        run({QStringLiteral("--headless"), QStringLiteral("--ignore-errors"),
+             QStringLiteral("--page"), QStringLiteral(EXAMPLE_PAGE), QStringLiteral("--scenario"),
+             scenario.path(), QStringLiteral("--screenshot"), picture});
     QCOMPARE(outcome.exitCode, 0);
     QCOMPARE(outcome.errors, QString());
     const QImage image(picture);
@@ -196,7 +208,7 @@ void tst_WorkbenchProgram::walkAfterTheEndIsWaitedFor()
     const TextFile scenario(R"({"events": [{"at": 0, "do": "camStatusRetrieved"}]})");
     const Outcome outcome =
         run({QStringLiteral("--headless"), QStringLiteral("--scenario"), scenario.path()});
-    QCOMPARE(outcome.exitCode, 0);
+    QCOMPARE(outcome.exitCode, 1);
     const QStringList walk = {
         QStringLiteral("raised    Camera disconnected: Gatehouse NVR - Truck park  "
                        "[3_gatehouse/truck-park]"),
@@ -215,11 +227,72 @@ void tst_WorkbenchProgram::speaksGerman()
     const Outcome outcome =
         run({QStringLiteral("--headless"), QStringLiteral("--language"), QStringLiteral("de"),
              QStringLiteral("--scenario"), scenario.path()});
-    QCOMPARE(outcome.exitCode, 0);
+    QCOMPARE(outcome.exitCode, 1);
     QVERIFY2(outcome.has(QStringLiteral("neu       Kamera getrennt: Station: Office building NVR "
                                         "/ Kamera: Lobby  [3_office/lobby]")),
              qPrintable(outcome.lines.join(u'\n')));
     QVERIFY(outcome.has(QStringLiteral("Zusammenfassung")));
+}
+
+void tst_WorkbenchProgram::jsonIsAllThatIsPrinted()
+{
+    const QTemporaryDir directory;
+    const TextFile scenario(
+        R"({"events": [{"at": 0, "do": "cameraDown", "camera": "office/lobby"}]})");
+    const Outcome outcome = run(options("--headless --format json --language de --scenario")
+                                << scenario.path() << QStringLiteral("--screenshot")
+                                << directory.filePath(QStringLiteral("x.png")));
+    QCOMPARE(outcome.exitCode, 1);
+    QCOMPARE(outcome.errors, QString());
+    QStringList events;
+    QJsonObject last;
+    for (const QString &line : outcome.lines.mid(0, outcome.lines.size() - 1)) {
+        last = QJsonDocument::fromJson(line.toUtf8()).object();
+        QVERIFY2(
+            QDateTime::fromString(last.value(QStringLiteral("time")).toString(), Qt::ISODateWithMs)
+                .isValid(),
+            qPrintable(line));
+        events.append(last.value(QStringLiteral("event")).toString());
+    }
+    for (const char *const event : {"connection", "raised", "picture"})
+        QVERIFY2(events.contains(QLatin1String(event)), event);
+    QCOMPARE(events.constLast(), QStringLiteral("summary"));
+    QVERIFY(!last.value(QStringLiteral("errors")).toArray().isEmpty());
+    QCOMPARE(outcome.lines.constLast(), QString());
+}
+
+void tst_WorkbenchProgram::metricsAreServedWhileItRuns()
+{
+    const TextFile scenario(R"({"events": [], "endAt": 60})");
+    QProcess program;
+    program.start(QStringLiteral(WORKBENCH_PROGRAM),
+                  options("--headless --format json --metrics 0 --scenario") << scenario.path());
+    const QRegularExpression address(
+        QStringLiteral("^Metrics are at http://127.0.0.1:(\\d+)/metrics\n"));
+    QString errors;
+    while (!address.match(errors).hasMatch() && program.waitForReadyRead(30'000))
+        errors += QString::fromUtf8(program.readAllStandardError());
+    QTcpSocket client;
+    client.connectToHost(QHostAddress::LocalHost, address.match(errors).captured(1).toUShort());
+    client.write("GET /metrics HTTP/1.1\r\nHost: localhost\r\n\r\n");
+    QByteArray answer;
+    while (!answer.contains("# EOF\n") && client.waitForReadyRead(30'000))
+        answer += client.readAll();
+    program.kill();
+    program.waitForFinished();
+    QVERIFY2(answer.contains("\nsystem_monitor_server_connected 1\n"), answer.constData());
+}
+
+void tst_WorkbenchProgram::portInUseIsRefused()
+{
+    QTcpServer other;
+    QVERIFY(other.listen(QHostAddress::LocalHost));
+    const QString port = QString::number(other.serverPort());
+    const Outcome outcome = run(options("--headless --metrics") << port);
+    QCOMPARE(outcome.exitCode, 2);
+    QCOMPARE(outcome.errors, QStringLiteral("workbench: --metrics: port %1 cannot be used: The "
+                                            "bound address is already in use\n")
+                                 .arg(port));
 }
 
 void tst_WorkbenchProgram::helpAndVersionNeedNothing()
@@ -284,7 +357,7 @@ void tst_WorkbenchProgram::wrongInputIsRefused()
 void tst_WorkbenchProgram::pluginThatCannotBeLoadedIsNamed()
 {
     const Outcome outcome = run(options("--headless --plugin /nowhere.so"));
-    QCOMPARE(outcome.exitCode, 1);
+    QCOMPARE(outcome.exitCode, 3);
     QVERIFY2(outcome.errors.contains(
                  QStringLiteral("workbench: /nowhere.so: cannot be loaded as a plug-in")),
              qPrintable(outcome.errors));
