@@ -17,6 +17,25 @@
     </message>
 </context>
 <context>
+    <name>AddressReader</name>
+    <message>
+        <source>an address like http://station:9100/metrics without a user</source>
+        <translation>eine Adresse wie http://station:9100/metrics ohne Benutzer</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;</source>
+        <translation>„%1“</translation>
+    </message>
+    <message>
+        <source>a station without &quot;resources&quot;</source>
+        <translation>eine Station ohne „resources“</translation>
+    </message>
+    <message>
+        <source>both</source>
+        <translation>beides</translation>
+    </message>
+</context>
+<context>
     <name>Catalogues</name>
     <message>
         <source>--language: expected en or de, found &quot;%1&quot;.</source>
@@ -188,6 +207,18 @@
         <source>refuses this client: %1</source>
         <translation>weist diesen Client ab: %1</translation>
     </message>
+    <message>
+        <source>watch</source>
+        <translation>Wache</translation>
+    </message>
+    <message>
+        <source>%1 does not answer: %2</source>
+        <translation>%1 antwortet nicht: %2</translation>
+    </message>
+    <message>
+        <source>%1 answers</source>
+        <translation>%1 antwortet</translation>
+    </message>
 </context>
 <context>
     <name>DashboardWindow</name>
@@ -198,6 +229,32 @@
     <message>
         <source>The dashboard cannot be loaded: %1</source>
         <translation>Die Übersicht kann nicht geladen werden: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ExporterReading</name>
+    <message>
+        <source>it tells nothing of the memory</source>
+        <translation>sie sagt nichts über den Speicher</translation>
+    </message>
+    <message>
+        <source>it tells nothing of the processors</source>
+        <translation>sie sagt nichts über die Prozessoren</translation>
+    </message>
+</context>
+<context>
+    <name>ExporterScraper</name>
+    <message>
+        <source>no answer in time</source>
+        <translation>keine Antwort in der Frist</translation>
+    </message>
+    <message>
+        <source>the answer is too long</source>
+        <translation>die Antwort ist zu lang</translation>
+    </message>
+    <message>
+        <source>HTTP status %1</source>
+        <translation>HTTP-Status %1</translation>
     </message>
 </context>
 <context>
@@ -298,13 +355,6 @@
     </message>
 </context>
 <context>
-    <name>OperationalLogReader</name>
-    <message>
-        <source>Error snoozed</source>
-        <translation>Fehler zurückgestellt</translation>
-    </message>
-</context>
-<context>
     <name>Message</name>
     <message>
         <source>version %1</source>
@@ -321,6 +371,48 @@
     <message>
         <source>&quot;%1&quot;</source>
         <translation>„%1“</translation>
+    </message>
+</context>
+<context>
+    <name>MetricsText</name>
+    <message>
+        <source>a name</source>
+        <translation>ein Name</translation>
+    </message>
+    <message>
+        <source>a number</source>
+        <translation>eine Zahl</translation>
+    </message>
+    <message>
+        <source>a timestamp</source>
+        <translation>ein Zeitstempel</translation>
+    </message>
+    <message>
+        <source>the end of the line</source>
+        <translation>das Ende der Zeile</translation>
+    </message>
+    <message>
+        <source>the name of a label</source>
+        <translation>der Name eines Labels</translation>
+    </message>
+    <message>
+        <source>a comma</source>
+        <translation>ein Komma</translation>
+    </message>
+    <message>
+        <source>line %1, column %2: expected %3</source>
+        <translation>Zeile %1, Spalte %2: erwartet: %3</translation>
+    </message>
+    <message>
+        <source>more than %1 bytes</source>
+        <translation>mehr als %1 Bytes</translation>
+    </message>
+</context>
+<context>
+    <name>OperationalLogReader</name>
+    <message>
+        <source>Error snoozed</source>
+        <translation>Fehler zurückgestellt</translation>
     </message>
 </context>
 <context>
@@ -673,6 +765,13 @@ Rückgabewerte: 1 die Arbeit war nicht möglich, 2 eine Option oder eine Datei i
     </message>
 </context>
 <context>
+    <name>StationWatch</name>
+    <message>
+        <source>the answer cannot be used: %1</source>
+        <translation>die Antwort ist nicht brauchbar: %1</translation>
+    </message>
+</context>
+<context>
     <name>WindowRun</name>
     <message>
         <source>%1 cannot be written</source>
@@ -685,6 +784,14 @@ Rückgabewerte: 1 die Arbeit war nicht möglich, 2 eine Option oder eine Datei i
     <message>
         <source>The server refuses this client: %1</source>
         <translation>Der Server weist diesen Client ab: %1</translation>
+    </message>
+    <message>
+        <source>%1 does not answer: %2</source>
+        <translation>%1 antwortet nicht: %2</translation>
+    </message>
+    <message>
+        <source>%1 answers</source>
+        <translation>%1 antwortet</translation>
     </message>
 </context>
 <context>
@@ -703,6 +810,14 @@ Rückgabewerte: 1 die Arbeit war nicht möglich, 2 eine Option oder eine Datei i
     <message>
         <source>listening on %1</source>
         <translation>wartet auf Verbindungen an %1</translation>
+    </message>
+    <message>
+        <source>%1 does not answer: %2</source>
+        <translation>%1 antwortet nicht: %2</translation>
+    </message>
+    <message>
+        <source>%1 answers</source>
+        <translation>%1 antwortet</translation>
     </message>
 </context>
 </TS>

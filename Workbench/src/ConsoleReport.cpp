@@ -111,6 +111,13 @@ void ConsoleReport::followServer(Workbench &workbench)
     connect(&link, &ServerLink::refused, this, [this](const QString &reason) {
         writeLine(tr("server"), tr("refuses this client: %1").arg(reason));
     });
+    connect(&workbench, &Workbench::nodeLost, this,
+            [this](const QString &nodeId, const QString &reason) {
+                writeLine(tr("watch"), tr("%1 does not answer: %2").arg(nodeId, reason));
+            });
+    connect(&workbench, &Workbench::nodeBack, this, [this](const QString &nodeId) {
+        writeLine(tr("watch"), tr("%1 answers").arg(nodeId));
+    });
     connect(&workbench, &Workbench::eventArrived, this, &ConsoleReport::writeEvent);
     connect(&workbench.topology(), &TopologyPlugin::camStatusRetrievedChanged, this,
             [this](bool success) {

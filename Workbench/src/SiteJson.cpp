@@ -1,5 +1,6 @@
 #include "SiteJson.h"
 
+#include "AddressReader.h"
 #include "JsonObject.h"
 #include "ResourceReader.h"
 
@@ -110,6 +111,8 @@ Station Reader::station(JsonObject &object, const QString &parentId)
         station.resources = readResources(resources);
         resources.expectNoMore();
     }
+    if (object.has(QStringLiteral("exporter")))
+        station.exporter = readExporter(object, QStringLiteral("exporter"));
     storage(object, station);
     for (JsonObject &entry : object.objects(QStringLiteral("cameras")))
         station.cameras.push_back(camera(entry, station.id));
