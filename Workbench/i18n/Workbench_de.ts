@@ -34,6 +34,25 @@
         <source>both</source>
         <translation>beides</translation>
     </message>
+    <message>
+        <source>an address like rtsp://camera/path or camera:554 without a user</source>
+        <translation>eine Adresse wie rtsp://kamera/pfad oder kamera:554 ohne Benutzer</translation>
+    </message>
+</context>
+<context>
+    <name>CameraProbe</name>
+    <message>
+        <source>no answer in time</source>
+        <translation>keine Antwort in der Frist</translation>
+    </message>
+    <message>
+        <source>the connection was closed</source>
+        <translation>die Verbindung wurde geschlossen</translation>
+    </message>
+    <message>
+        <source>the answer is too long</source>
+        <translation>die Antwort ist zu lang</translation>
+    </message>
 </context>
 <context>
     <name>Catalogues</name>
@@ -609,6 +628,21 @@ Rückgabewerte: 0 alles ging gut, 1 die Arbeit war nicht möglich, 2 eine Option
     <message>
         <source>expected a welcome first</source>
         <translation>erwartet: zuerst ein Willkommen</translation>
+    </message>
+</context>
+<context>
+    <name>RtspOptions</name>
+    <message>
+        <source>the answer is no RTSP</source>
+        <translation>die Antwort ist kein RTSP</translation>
+    </message>
+    <message>
+        <source>the answer is that to another request</source>
+        <translation>die Antwort gehört zu einer anderen Anfrage</translation>
+    </message>
+    <message>
+        <source>RTSP status %1</source>
+        <translation>RTSP-Status %1</translation>
     </message>
 </context>
 <context>

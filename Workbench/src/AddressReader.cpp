@@ -15,8 +15,14 @@ class Reader
 
 public:
     static QUrl exporterUrl(JsonObject &object);
+    static QUrl cameraAddress(JsonObject &camera, const QString &key);
     static void refuseSimulation(JsonObject &station, const QString &key);
 };
+
+bool isPlain(const QUrl &url)
+{
+    return url.port() > 0 && url.path().isEmpty() && !url.hasQuery();
+}
 
 // Files of sites are passed around, so they hold no passwords.
 bool isUsable(const QUrl &url)
@@ -36,6 +42,19 @@ QUrl Reader::exporterUrl(JsonObject &object)
         object.fail(key, tr("an address like http://station:9100/metrics without a user"),
                     tr("\"%1\"").arg(text));
     return url;
+}
+
+QUrl Reader::cameraAddress(JsonObject &camera, const QString &key)
+{
+    const QString text = camera.text(key);
+    const QUrl url(text, QUrl::StrictMode);
+    if (url.scheme() == QLatin1String("rtsp") && isUsable(url))
+        return url;
+    const QUrl peer(QStringLiteral("tcp://") + text, QUrl::StrictMode);
+    if (!isUsable(peer) || !isPlain(peer))
+        camera.fail(key, tr("an address like rtsp://camera/path or camera:554 without a user"),
+                    tr("\"%1\"").arg(text));
+    return peer;
 }
 
 void Reader::refuseSimulation(JsonObject &station, const QString &key)
@@ -59,4 +78,9 @@ Exporter readExporter(JsonObject &station, const QString &key)
     }
     object.expectNoMore();
     return exporter;
+}
+
+QUrl readCameraAddress(JsonObject &camera, const QString &key)
+{
+    return Reader::cameraAddress(camera, key);
 }

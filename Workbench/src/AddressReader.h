@@ -9,4 +9,8 @@ class JsonObject;
 /// "bandwidth"). A station with "resources" must not have it. Throws InputError.
 Exporter readExporter(JsonObject &station, const QString &key);
 
+/// Reads the address at a key of a camera: "rtsp://host[:port]/path", or "host:port", which becomes
+/// "tcp://host:port". Throws InputError.
+QUrl readCameraAddress(JsonObject &camera, const QString &key);
+
 #endif

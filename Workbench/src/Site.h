@@ -26,6 +26,7 @@ struct Camera
     QString id;
     QString name;
     bool connected = true;
+    QUrl address = {}; ///< of the real camera: "rtsp://..." or "tcp://host:port"; empty without one
 };
 
 /// A storage volume of a station.

@@ -9,7 +9,7 @@
 /// "connected" and "supportsMonitoring" (both true by default), "resources" ("cpu", "memory",
 /// "networks") or instead an "exporter" ("url", "networks"), "volumes" ("id", "name", "connected"),
 /// "recordingGroups" ("id", "name", "recordedDays", "requiredDays"), "cameras" ("id", "name",
-/// "connected") and further "stations".
+/// "connected", "address") and further "stations".
 /// The ids of cameras and sub-stations are their own parts and contain no "/".
 ///
 /// Throws InputError when the file cannot be read, lacks a key, has an unknown one or an id twice.

@@ -95,6 +95,8 @@ Camera Reader::camera(JsonObject &object, const QString &stationId)
 {
     Camera camera{nodeId(object, stationId), object.text(QStringLiteral("name")),
                   object.flag(QStringLiteral("connected"), true)};
+    if (object.has(QStringLiteral("address")))
+        camera.address = readCameraAddress(object, QStringLiteral("address"));
     object.expectNoMore();
     return camera;
 }

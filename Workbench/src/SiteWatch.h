@@ -1,19 +1,19 @@
 #ifndef SITEWATCH_H
 #define SITEWATCH_H
 
+#include "CameraWatch.h"
+
 #include <QNetworkAccessManager>
 #include <QObject>
 
 #include <memory>
 #include <vector>
 
-class NodePresence;
-class Site;
 class SiteServer;
 class StationWatch;
 
-/// Watches those stations of a site that stand for real ones, and tells the site's server what is
-/// found. Time is the real one here, however fast the site's clock runs.
+/// Watches those stations and cameras of a site that stand for real ones, and tells the site's
+/// server what is found. Time is the real one here, however fast the site's clock runs.
 class SiteWatch : public QObject
 {
     Q_OBJECT
@@ -32,10 +32,11 @@ Q_SIGNALS:
     void back(const QString &nodeId);
 
 private:
-    void follow(const NodePresence &presence);
+    void add(SiteServer &server, const Station &station);
 
     QNetworkAccessManager m_manager;
     std::vector<std::unique_ptr<StationWatch>> m_stations;
+    CameraWatch m_cameras;
 };
 
 #endif
