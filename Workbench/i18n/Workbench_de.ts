@@ -448,8 +448,8 @@
         <translation>Ohne Fenster laufen: das Szenario bis zum Ende spielen, jede Änderung der Fehlerliste ausgeben, dann eine Zusammenfassung. Das geschieht auch, wenn es keinen Bildschirm gibt.</translation>
     </message>
     <message>
-        <source>The site: a JSON file, or the name of a bundled one (default).</source>
-        <translation>Der Standort: eine JSON-Datei oder der Name eines mitgelieferten (default).</translation>
+        <source>The site: a JSON file, or the name of a bundled one (default, real).</source>
+        <translation>Der Standort: eine JSON-Datei oder der Name eines mitgelieferten (default, real).</translation>
     </message>
     <message>
         <source>file</source>
@@ -690,8 +690,8 @@ Rückgabewerte: 0 alles ging gut, 1 die Arbeit war nicht möglich, 2 eine Option
 <context>
     <name>ServerOptions</name>
     <message>
-        <source>The site: a JSON file, or the name of a bundled one (default).</source>
-        <translation>Der Standort: eine JSON-Datei oder der Name eines mitgelieferten (default).</translation>
+        <source>The site: a JSON file, or the name of a bundled one (default, real).</source>
+        <translation>Der Standort: eine JSON-Datei oder der Name eines mitgelieferten (default, real).</translation>
     </message>
     <message>
         <source>file</source>
