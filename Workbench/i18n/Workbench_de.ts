@@ -208,6 +208,18 @@
             <source>%1 cannot be written</source>
             <translation>%1 kann nicht geschrieben werden</translation>
         </message>
+        <message>
+            <source>watch</source>
+            <translation>Wache</translation>
+        </message>
+        <message>
+            <source>%1 does not answer: %2</source>
+            <translation>%1 antwortet nicht: %2</translation>
+        </message>
+        <message>
+            <source>%1 answers</source>
+            <translation>%1 antwortet</translation>
+        </message>
     </context>
     <context>
         <name>DashboardWindow</name>
@@ -663,6 +675,10 @@ einem Szenario der Ereignisse und der Auslastung dieses Rechners.
             <source>--metrics: expected a port from 0 to 65535, found "%1".</source>
             <translation>--metrics: erwartet: ein Port von 0 bis 65535, gefunden: „%1“.</translation>
         </message>
+        <message>
+            <source>The site: a JSON file, or the name of a bundled one (default, real).</source>
+            <translation>Der Standort: eine JSON-Datei oder der Name eines mitgelieferten (default, real).</translation>
+        </message>
     </context>
     <context>
         <name>PluginHost</name>
@@ -865,6 +881,10 @@ Rückgabewerte: 1 die Arbeit war nicht möglich, 2 eine Option oder eine Datei i
             <source>--listen: expected --token-file FILE as well, since %1 can be reached from other machines.</source>
             <translation>--listen: erwartet: auch --token-file FILE, weil %1 von anderen Rechnern aus erreichbar ist.</translation>
         </message>
+        <message>
+            <source>The site: a JSON file, or the name of a bundled one (default, real).</source>
+            <translation>Der Standort: eine JSON-Datei oder der Name eines mitgelieferten (default, real).</translation>
+        </message>
     </context>
     <context>
         <name>SiteFile</name>
@@ -926,6 +946,14 @@ Rückgabewerte: 1 die Arbeit war nicht möglich, 2 eine Option oder eine Datei i
             <source>The server refuses this client: %1</source>
             <translation>Der Server weist diesen Client ab: %1</translation>
         </message>
+        <message>
+            <source>%1 does not answer: %2</source>
+            <translation>%1 antwortet nicht: %2</translation>
+        </message>
+        <message>
+            <source>%1 answers</source>
+            <translation>%1 antwortet</translation>
+        </message>
     </context>
     <context>
         <name>main</name>
@@ -960,6 +988,14 @@ Rückgabewerte: 1 die Arbeit war nicht möglich, 2 eine Option oder eine Datei i
             <source>listening on %1</source>
             <translation>wartet auf Verbindungen an %1</translation>
         </message>
+        <message>
+            <source>%1 does not answer: %2</source>
+            <translation>%1 antwortet nicht: %2</translation>
+        </message>
+        <message>
+            <source>%1 answers</source>
+            <translation>%1 antwortet</translation>
+        </message>
     </context>
     <context>
         <name>MetricsServer</name>
@@ -977,6 +1013,127 @@ Rückgabewerte: 1 die Arbeit war nicht möglich, 2 eine Option oder eine Datei i
         <message>
             <source>waiting for the error list to come to rest</source>
             <translation>warten, bis die Fehlerliste zur Ruhe kommt</translation>
+        </message>
+    </context>
+    <context>
+        <name>AddressReader</name>
+        <message>
+            <source>an address like http://station:9100/metrics without a user</source>
+            <translation>eine Adresse wie http://station:9100/metrics ohne Benutzer</translation>
+        </message>
+        <message>
+            <source>"%1"</source>
+            <translation>„%1“</translation>
+        </message>
+        <message>
+            <source>a station without "resources"</source>
+            <translation>eine Station ohne „resources“</translation>
+        </message>
+        <message>
+            <source>both</source>
+            <translation>beides</translation>
+        </message>
+        <message>
+            <source>an address like rtsp://camera/path or camera:554 without a user</source>
+            <translation>eine Adresse wie rtsp://kamera/pfad oder kamera:554 ohne Benutzer</translation>
+        </message>
+    </context>
+    <context>
+        <name>CameraProbe</name>
+        <message>
+            <source>no answer in time</source>
+            <translation>keine Antwort in der Frist</translation>
+        </message>
+        <message>
+            <source>the connection was closed</source>
+            <translation>die Verbindung wurde geschlossen</translation>
+        </message>
+        <message>
+            <source>the answer is too long</source>
+            <translation>die Antwort ist zu lang</translation>
+        </message>
+    </context>
+    <context>
+        <name>ExporterReading</name>
+        <message>
+            <source>it tells nothing of the memory</source>
+            <translation>sie sagt nichts über den Speicher</translation>
+        </message>
+        <message>
+            <source>it tells nothing of the processors</source>
+            <translation>sie sagt nichts über die Prozessoren</translation>
+        </message>
+    </context>
+    <context>
+        <name>ExporterScraper</name>
+        <message>
+            <source>no answer in time</source>
+            <translation>keine Antwort in der Frist</translation>
+        </message>
+        <message>
+            <source>the answer is too long</source>
+            <translation>die Antwort ist zu lang</translation>
+        </message>
+        <message>
+            <source>HTTP status %1</source>
+            <translation>HTTP-Status %1</translation>
+        </message>
+    </context>
+    <context>
+        <name>MetricsText</name>
+        <message>
+            <source>a name</source>
+            <translation>ein Name</translation>
+        </message>
+        <message>
+            <source>a number</source>
+            <translation>eine Zahl</translation>
+        </message>
+        <message>
+            <source>a timestamp</source>
+            <translation>ein Zeitstempel</translation>
+        </message>
+        <message>
+            <source>the end of the line</source>
+            <translation>das Ende der Zeile</translation>
+        </message>
+        <message>
+            <source>the name of a label</source>
+            <translation>der Name eines Labels</translation>
+        </message>
+        <message>
+            <source>a comma</source>
+            <translation>ein Komma</translation>
+        </message>
+        <message>
+            <source>line %1, column %2: expected %3</source>
+            <translation>Zeile %1, Spalte %2: erwartet: %3</translation>
+        </message>
+        <message>
+            <source>more than %1 bytes</source>
+            <translation>mehr als %1 Bytes</translation>
+        </message>
+    </context>
+    <context>
+        <name>RtspOptions</name>
+        <message>
+            <source>the answer is no RTSP</source>
+            <translation>die Antwort ist kein RTSP</translation>
+        </message>
+        <message>
+            <source>the answer is that to another request</source>
+            <translation>die Antwort gehört zu einer anderen Anfrage</translation>
+        </message>
+        <message>
+            <source>RTSP status %1</source>
+            <translation>RTSP-Status %1</translation>
+        </message>
+    </context>
+    <context>
+        <name>StationWatch</name>
+        <message>
+            <source>the answer cannot be used: %1</source>
+            <translation>die Antwort ist nicht brauchbar: %1</translation>
         </message>
     </context>
 </TS>

@@ -75,6 +75,16 @@ void ConsoleReport::writeWaitInVain(const QString &key)
     writeLine(tr("waited"), tr("in vain until %1 is listed").arg(key));
 }
 
+void ConsoleReport::writeLostNode(const QString &nodeId, const QString &reason)
+{
+    writeLine(tr("watch"), tr("%1 does not answer: %2").arg(nodeId, reason));
+}
+
+void ConsoleReport::writeFoundNode(const QString &nodeId)
+{
+    writeLine(tr("watch"), tr("%1 answers").arg(nodeId));
+}
+
 void ConsoleReport::writeConnection(bool isOpen)
 {
     writeLine(tr("server"), isOpen ? tr("connected") : tr("connection lost"));

@@ -30,6 +30,8 @@ public:
 private:
     void writeError(ErrorChange change, const ListedError &error) override;
     void writeWaitInVain(const QString &key) override;
+    void writeLostNode(const QString &nodeId, const QString &reason) override;
+    void writeFoundNode(const QString &nodeId) override;
     void writeConnection(bool isOpen) override;
     void writeFailedAttempt(const QString &reason, qint64 pauseMs) override;
     void writeRefusal(const QString &reason) override;

@@ -107,6 +107,17 @@ void JsonReport::writeWaitInVain(const QString &key)
     write(QStringLiteral("waitedInVain"), {{QStringLiteral("key"), key}});
 }
 
+void JsonReport::writeLostNode(const QString &nodeId, const QString &reason)
+{
+    write(QStringLiteral("nodeLost"),
+          {{QStringLiteral("node"), nodeId}, {QStringLiteral("reason"), reason}});
+}
+
+void JsonReport::writeFoundNode(const QString &nodeId)
+{
+    write(QStringLiteral("nodeBack"), {{QStringLiteral("node"), nodeId}});
+}
+
 void JsonReport::writeConnection(bool isOpen)
 {
     write(QStringLiteral("connection"), {{QStringLiteral("connected"), isOpen}});

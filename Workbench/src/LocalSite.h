@@ -5,8 +5,9 @@
 #include "LocalStation.h"
 #include "SiteActor.h"
 #include "SiteServer.h"
+#include "SiteWatch.h"
 
-/// A simulated site that runs in the Workbench's own process, with this machine as one more
+/// A site that runs in the Workbench's own process, with this machine as one more
 /// station.
 class LocalSite
 {
@@ -19,6 +20,8 @@ public:
     SiteActor &actor() { return m_actor; }
     /// Tells of this machine's load.
     LocalStation &thisMachine() { return m_thisMachine; }
+    /// Watches what is real of the site, once it is started.
+    SiteWatch &watch() { return m_watch; }
 
     /// Starts anew with the site as it was at first.
     void reset() { m_server.reset(m_initialSite); }
@@ -29,6 +32,7 @@ private:
     LocalServerLink m_link;
     SiteActor m_actor;
     LocalStation m_thisMachine;
+    SiteWatch m_watch;
 };
 
 #endif

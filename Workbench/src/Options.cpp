@@ -42,7 +42,7 @@ private:
            "list, then a summary. This is what happens, too, when there is no display.")};
     const QCommandLineOption m_site{
         QStringLiteral("site"),
-        tr("The site: a JSON file, or the name of a bundled one (default)."), tr("file"),
+        tr("The site: a JSON file, or the name of a bundled one (default, real)."), tr("file"),
         QStringLiteral("default")};
     const QCommandLineOption m_scenario{
         QStringLiteral("scenario"),

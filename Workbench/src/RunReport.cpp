@@ -71,6 +71,11 @@ void RunReport::followServer(Workbench &workbench)
             [this](const QString &reason, qint64 pauseMs) { writeFailedAttempt(reason, pauseMs); });
     connect(&link, &ServerLink::refused, this,
             [this](const QString &reason) { writeRefusal(reason); });
+    connect(
+        &workbench, &Workbench::nodeLost, this,
+        [this](const QString &nodeId, const QString &reason) { writeLostNode(nodeId, reason); });
+    connect(&workbench, &Workbench::nodeBack, this,
+            [this](const QString &nodeId) { writeFoundNode(nodeId); });
     connect(&workbench, &Workbench::eventArrived, this, &RunReport::noticeEvent);
     connect(&workbench.topology(), &TopologyPlugin::camStatusRetrievedChanged, this,
             [this](bool success) { writeStates(success); });

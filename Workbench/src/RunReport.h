@@ -56,6 +56,10 @@ private:
     virtual void writeError(ErrorChange change, const ListedError &error) = 0;
     /// A step of the scenario waited for an error that did not come.
     virtual void writeWaitInVain(const QString &key) = 0;
+    /// A watched station or camera does not answer any more.
+    virtual void writeLostNode(const QString &nodeId, const QString &reason) = 0;
+    /// It answers again.
+    virtual void writeFoundNode(const QString &nodeId) = 0;
     virtual void writeConnection(bool isOpen) = 0;
     /// There is no connection, and the next try is after a pause.
     virtual void writeFailedAttempt(const QString &reason, qint64 pauseMs) = 0;

@@ -24,7 +24,7 @@ private:
 
     const QCommandLineOption m_site{
         QStringLiteral("site"),
-        tr("The site: a JSON file, or the name of a bundled one (default)."), tr("file"),
+        tr("The site: a JSON file, or the name of a bundled one (default, real)."), tr("file"),
         QStringLiteral("default")};
     const QCommandLineOption m_scenario{
         QStringLiteral("scenario"),

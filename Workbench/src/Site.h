@@ -3,8 +3,10 @@
 
 #include "ResourceReport.h"
 
+#include <QHash>
 #include <QMetaType>
 #include <QString>
+#include <QUrl>
 
 #include <functional>
 #include <optional>
@@ -24,6 +26,7 @@ struct Camera
     QString id;
     QString name;
     bool connected = true;
+    QUrl address = {}; ///< of the real camera: "rtsp://..." or "tcp://host:port"; empty without one
 };
 
 /// A storage volume of a station.
@@ -45,6 +48,13 @@ struct RecordingGroup
     bool isSufficient() const { return recordedDays >= requiredDays; }
 };
 
+/// Where a real station tells its load: a Prometheus exporter.
+struct Exporter
+{
+    QUrl url;                          ///< http or https
+    QHash<QString, double> bandwidths; ///< Mbit/s, of the interfaces whose speed is known
+};
+
 /// A recording station with what hangs on it. The id of a sub-station is the id of the station
 /// above it, a "/" and its own part.
 struct Station
@@ -54,6 +64,7 @@ struct Station
     bool connected = true;
     bool supportsMonitoring = true;
     std::optional<ResourceReport> resources; ///< what it reports again and again, if anything
+    std::optional<Exporter> exporter;        ///< the real station that this one stands for, if any
     std::vector<Volume> volumes;
     std::vector<RecordingGroup> recordingGroups;
     std::vector<Camera> cameras;

@@ -1,5 +1,6 @@
 #include "SiteJson.h"
 
+#include "AddressReader.h"
 #include "JsonObject.h"
 #include "ResourceReader.h"
 
@@ -94,6 +95,8 @@ Camera Reader::camera(JsonObject &object, const QString &stationId)
 {
     Camera camera{nodeId(object, stationId), object.text(QStringLiteral("name")),
                   object.flag(QStringLiteral("connected"), true)};
+    if (object.has(QStringLiteral("address")))
+        camera.address = readCameraAddress(object, QStringLiteral("address"));
     object.expectNoMore();
     return camera;
 }
@@ -110,6 +113,8 @@ Station Reader::station(JsonObject &object, const QString &parentId)
         station.resources = readResources(resources);
         resources.expectNoMore();
     }
+    if (object.has(QStringLiteral("exporter")))
+        station.exporter = readExporter(object, QStringLiteral("exporter"));
     storage(object, station);
     for (JsonObject &entry : object.objects(QStringLiteral("cameras")))
         station.cameras.push_back(camera(entry, station.id));

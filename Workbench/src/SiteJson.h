@@ -11,7 +11,8 @@ class JsonObject;
 /// InputError for what is missing, unknown or there twice.
 Site readSite(JsonObject &object);
 
-/// The site as readSite() takes it, apart from the loads that its stations report.
+/// The site as readSite() takes it, apart from the loads that its stations report and from where
+/// real ones are found.
 QJsonObject toJson(const Site &site);
 
 /// Reads "volumes" and "recordingGroups" into a station. Throws InputError.

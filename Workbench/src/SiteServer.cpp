@@ -187,7 +187,7 @@ void SiteServer::reportAll()
 {
     ++m_reportCount;
     m_site.forEachStation([this](const Station &station) {
-        if (station.resources)
+        if (station.resources && !station.exporter)
             reportResources(station.id,
                             livelyReport(*station.resources, qHash(station.id), m_reportCount));
     });

@@ -19,6 +19,12 @@ WindowRun::WindowRun(Workbench &workbench, DashboardWindow &window, Screenshot *
     connect(&driver, &ScenarioDriver::screenshotDue, this, &WindowRun::takeScreenshot);
     connect(&driver, &ScenarioDriver::finished, this, &WindowRun::takeScreenshot);
     connect(&workbench.link(), &ServerLink::refused, this, &WindowRun::showRefusal);
+    connect(&workbench, &Workbench::nodeLost, this,
+            [](const QString &nodeId, const QString &reason) {
+                qWarning().noquote() << tr("%1 does not answer: %2").arg(nodeId, reason);
+            });
+    connect(&workbench, &Workbench::nodeBack, this,
+            [](const QString &nodeId) { qInfo().noquote() << tr("%1 answers").arg(nodeId); });
     if (isLooped)
         connect(&driver, &ScenarioDriver::finished, &workbench, &Workbench::start);
 }

@@ -29,8 +29,7 @@ Workbench::Workbench(PluginHost &host, QQmlContext *context, ServerLink &link, L
         site ? &site->actor() : nullptr, m_link, m_topology, *m_surface, clock});
     wireServer();
     if (site)
-        connect(m_surface.get(), &PluginSurface::clientResourceChanged, &site->thisMachine(),
-                &LocalStation::report);
+        wireSite(*site);
     connect(&m_driver, &ScenarioDriver::due, this, &Workbench::perform);
 }
 
@@ -47,6 +46,8 @@ void Workbench::start()
         m_site->reset();
     m_isScenarioDue = true;
     m_link.open();
+    if (m_site)
+        m_site->watch().start();
 }
 
 void Workbench::wirePlugins(QQmlContext *context)
@@ -75,6 +76,14 @@ void Workbench::wireServer()
                 Q_EMIT eventArrived(name, data, sourceId);
                 m_host.plugin()->EventProcessor(name, 0, 0, 0, data, sourceId);
             });
+}
+
+void Workbench::wireSite(LocalSite &site)
+{
+    connect(m_surface.get(), &PluginSurface::clientResourceChanged, &site.thisMachine(),
+            &LocalStation::report);
+    connect(&site.watch(), &SiteWatch::lost, this, &Workbench::nodeLost);
+    connect(&site.watch(), &SiteWatch::back, this, &Workbench::nodeBack);
 }
 
 // A site in another process comes with all its states. They are announced from the event loop, when

@@ -56,10 +56,14 @@ public:
 Q_SIGNALS:
     /// An event has come from the server, the plug-in is about to hear.
     void eventArrived(const QString &name, const QVariant &data, const QString &sourceId);
+    /// A real station or camera does not answer, and counts as disconnected.
+    void nodeLost(const QString &nodeId, const QString &reason);
+    void nodeBack(const QString &nodeId);
 
 private:
     void wirePlugins(QQmlContext *context);
     void wireServer();
+    void wireSite(LocalSite &site);
     void takeSite();
     void perform(const AnyScenarioAction &action);
 

@@ -8,6 +8,7 @@
 #include "SiteActor.h"
 #include "SiteFile.h"
 #include "SiteServer.h"
+#include "SiteWatch.h"
 #include "SnoozeStore.h"
 
 #include <QTextStream>
@@ -40,6 +41,18 @@ Scenario readScenario(const ServerOptions &options, const Site &site)
                                           : readScenarioFile(options.scenarioFile, site);
 }
 
+// The reason is for who runs the server; its clients hear that the node is disconnected.
+void tellOfSilence(const SiteWatch &watch)
+{
+    QObject::connect(&watch, &SiteWatch::lost, [](const QString &nodeId, const QString &reason) {
+        complain(QCoreApplication::translate("site-server", "%1 does not answer: %2")
+                     .arg(nodeId, reason));
+    });
+    QObject::connect(&watch, &SiteWatch::back, [](const QString &nodeId) {
+        complain(QCoreApplication::translate("site-server", "%1 answers").arg(nodeId));
+    });
+}
+
 int serve(const ServerOptions &options)
 {
     const Site site = readSiteFile(options.siteFile);
@@ -49,6 +62,8 @@ int serve(const ServerOptions &options)
     const std::unique_ptr<SnoozeStore> store = openStore(options);
     SiteServer server(site, clock, store.get());
     SiteActor actor(server);
+    SiteWatch watch(server, site);
+    tellOfSilence(watch);
     QObject::connect(&driver, &ScenarioDriver::due, &server,
                      [&actor](const AnyScenarioAction &action) { actor.perform(action); });
 
@@ -64,6 +79,7 @@ int serve(const ServerOptions &options)
         << QCoreApplication::translate("site-server", "listening on %1").arg(gate.url().toString())
         << Qt::endl;
     driver.start();
+    watch.start();
     return QCoreApplication::exec();
 }
 

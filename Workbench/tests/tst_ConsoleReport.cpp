@@ -28,6 +28,7 @@ private Q_SLOTS:
     void linesAreWrittenAtOnce();
     void writesChangesOfTheErrorList();
     void writesWhatTheServerDoes();
+    void writesWhichRealNodesAnswer();
     void writesWhatTheUserDoes();
     void writesRefusedSnoozes();
     void percentSignsInNamesAreLeftAlone();
@@ -161,6 +162,16 @@ void tst_ConsoleReport::writesWhatTheServerDoes()
                           QStringLiteral("server    connection lost"),
                           QStringLiteral("server    Connection refused; next try in 1.3 s"),
                           QStringLiteral("server    refuses this client: the token is wrong")}));
+}
+
+void tst_ConsoleReport::writesWhichRealNodesAnswer()
+{
+    SiteWatch &watch = m_fixture->localSite.watch();
+    Q_EMIT watch.lost(QStringLiteral("north"), QStringLiteral("Connection refused"));
+    Q_EMIT watch.back(QStringLiteral("north"));
+    QCOMPARE(takeLines(),
+             QStringList({QStringLiteral("watch     north does not answer: Connection refused"),
+                          QStringLiteral("watch     north answers")}));
 }
 
 void tst_ConsoleReport::writesWhatTheUserDoes()

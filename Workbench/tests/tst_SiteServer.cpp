@@ -52,6 +52,7 @@ private Q_SLOTS:
     void stationThatCannotReportDoesNot_data();
     void stationThatCannotReportDoesNot();
     void levelIsReportedAtOnceAndEverySecond();
+    void realStationIsNotSimulated();
     void capacityWarningIsAnEventOfTheServer();
 
     void snoozeIsConfirmedAfterItsResponse();
@@ -291,6 +292,16 @@ void tst_SiteServer::levelIsReportedAtOnceAndEverySecond()
     QCOMPARE(takeEvents().size(), 1);
     m_clock->advance(5 * Second);
     QCOMPARE(takeEvents().size(), 5);
+}
+
+void tst_SiteServer::realStationIsNotSimulated()
+{
+    Site site = testSite();
+    site.stations.front().exporter = Exporter{};
+    site.stations.front().resources = ResourceReport{12, 34, {}};
+    m_server->reset(site);
+    m_clock->advance(3 * Second);
+    QCOMPARE(takeEvents(), QStringList());
 }
 
 void tst_SiteServer::capacityWarningIsAnEventOfTheServer()

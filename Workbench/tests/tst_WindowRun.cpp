@@ -27,6 +27,7 @@ private Q_SLOTS:
     void screenshotThatCannotBeWrittenShowsInTheExitCode();
     void loopStartsTheScenarioAgain();
     void refusalIsShown();
+    void silenceOfRealNodesIsTold();
 
 private:
     void prepare(const Scenario &scenario);
@@ -125,6 +126,17 @@ void tst_WindowRun::refusalIsShown()
     });
     QCOMPARE(runFor(100), 0);
     QCOMPARE(m_window->title(), text);
+}
+
+void tst_WindowRun::silenceOfRealNodesIsTold()
+{
+    prepare({});
+    const WindowRun run(m_fixture->workbench, *m_window, nullptr, false);
+    SiteWatch &watch = m_fixture->localSite.watch();
+    QTest::ignoreMessage(QtWarningMsg, "north does not answer: why");
+    Q_EMIT watch.lost(QStringLiteral("north"), QStringLiteral("why"));
+    QTest::ignoreMessage(QtInfoMsg, "north answers");
+    Q_EMIT watch.back(QStringLiteral("north"));
 }
 
 QTEST_MAIN(tst_WindowRun)
