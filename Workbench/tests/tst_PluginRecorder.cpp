@@ -129,10 +129,11 @@ void tst_PluginRecorder::endHasTheErrorList()
     m_recorder->PluginServerConnected();
     const Journal journal = readJournal(m_directory->filePath(QStringLiteral("j")));
     QVERIFY(journal.entries.empty());
-    QCOMPARE(journal.errors,
-             std::optional(QStringList{QStringLiteral("errorNameRole=Lost; errorTypeRole=3; "
-                                                      "triggerDeviceNameRole=Door; "
-                                                      "uniqueIDRole=3_c")}));
+    QCOMPARE(journal.errors.value_or(QStringList()).size(), 1);
+    const QString error = journal.errors->constFirst();
+    for (const char *const field : {"errorNameRole=Lost; ", "errorTypeRole=3; ",
+                                    "triggerDeviceNameRole=Door; ", "uniqueIDRole=3_c"})
+        QVERIFY2(error.contains(QString::fromLatin1(field)), qPrintable(error));
 }
 
 void tst_PluginRecorder::pluginThatIsGoneIsLeftAlone()
