@@ -8,7 +8,7 @@
 
 ErrorKey::ErrorKey(ErrorType type, QStringView id, QStringView subId)
 {
-    std::array<char, std::numeric_limits<int>::digits10 + 2> number;
+    std::array<char, std::numeric_limits<int>::digits10 + 2> number{};
     const auto end =
         std::to_chars(number.data(), number.data() + number.size(), static_cast<int>(type)).ptr;
     for (const char *digit = number.data(); digit != end; ++digit)

@@ -19,6 +19,7 @@ public:
 
     /// Reads the whole file; a file that cannot be read has no lines.
     explicit ProcFile(const QString &path);
+    ~ProcFile() = default;
 
     ProcFile(const ProcFile &) = delete;
     ProcFile &operator=(const ProcFile &) = delete;
