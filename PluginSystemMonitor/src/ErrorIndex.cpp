@@ -82,9 +82,12 @@ void ErrorIndex::insert(const QString &key, QStandardItem *item)
         return;
     Row &row = it->second;
     dropKey(row);
+    if (Row *predecessor = rowOfKey(key))
+        dropKey(*predecessor);
     row.key = key;
-    if (m_itemByKey.insert_or_assign(key, item).second)
-        m_usageKeys.add(key);
+    row.isKeyed = true;
+    addTo(m_keys[qHash(key)], row, &Row::sameHash);
+    m_usageKeys.add(key);
 }
 
 void ErrorIndex::announce(const QString &key, const QStandardItem *item)
@@ -95,14 +98,14 @@ void ErrorIndex::announce(const QString &key, const QStandardItem *item)
 
 void ErrorIndex::remove(const QString &key)
 {
-    if (m_itemByKey.erase(key) > 0)
-        m_usageKeys.remove(key);
+    if (Row *row = rowOfKey(key))
+        dropKey(*row);
 }
 
 QModelIndex ErrorIndex::find(const QString &key) const
 {
-    const auto it = m_itemByKey.find(key);
-    return it == m_itemByKey.end() ? QModelIndex() : m_model->indexFromItem(it->second);
+    const Row *row = rowOfKey(key);
+    return row ? m_model->indexFromItem(row->item) : QModelIndex();
 }
 
 QList<QStandardItem *> ErrorIndex::rowsOfStationsStartingWith(const QString &prefix) const
@@ -255,12 +258,23 @@ void ErrorIndex::fileDevices()
         fileUnderDevice(row);
 }
 
-void ErrorIndex::dropKey(const Row &row)
+ErrorIndex::Row *ErrorIndex::rowOfKey(const QString &key) const
 {
-    const auto it = m_itemByKey.find(row.key);
-    if (it == m_itemByKey.end() || it->second != row.item)
+    Row *row = m_keys.value(qHash(key)).first;
+    while (row && row->key != key)
+        row = row->sameHash.next;
+    return row;
+}
+
+void ErrorIndex::dropKey(Row &row)
+{
+    if (!row.isKeyed)
         return;
-    m_itemByKey.erase(it);
+    row.isKeyed = false;
+    const auto group = m_keys.find(qHash(row.key));
+    takeFrom(*group, row, &Row::sameHash);
+    if (!group->first)
+        m_keys.erase(group);
     m_usageKeys.remove(row.key);
 }
 
@@ -305,7 +319,6 @@ void ErrorIndex::trackAnew()
 {
     m_tracksDoomed = m_removals > 0;
     const auto oldRows = std::move(m_rows);
-    const auto oldItemByKey = std::move(m_itemByKey);
     clear();
     for (int row = 0; row < m_model->rowCount(); ++row) {
         // The item that a bare row gets may have the address of one that was deleted.
@@ -318,17 +331,15 @@ void ErrorIndex::trackAnew()
         if (wasBare || old == oldRows.end())
             continue;
         m_rows[item].age = old->second.age;
-        const QString &key = old->second.key;
-        const auto filed = oldItemByKey.find(key);
-        if (filed != oldItemByKey.end() && filed->second == item)
-            insert(key, item);
+        if (old->second.isKeyed)
+            insert(old->second.key, item);
     }
 }
 
 void ErrorIndex::clear()
 {
     m_rows.clear();
-    m_itemByKey.clear();
+    m_keys.clear();
     m_usageKeys.clear();
     m_stations.clear();
     m_lastStation = nullptr;

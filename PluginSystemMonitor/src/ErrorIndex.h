@@ -85,18 +85,14 @@ private:
     struct Row
     {
         QStandardItem *item = nullptr;
-        QString key; ///< empty for a row that was never given one
+        QString key;
+        bool isKeyed = false; ///< filed under its key, which another row may have taken over
         quint64 age = 0;
         Stations::value_type *station = nullptr;
         Devices::value_type *device = nullptr;
         Links sameStation;
         Links sameDevice;
-    };
-
-    /// Not noexcept, so that the table keeps the hashes: it grows without reading the keys again.
-    struct KeyHash
-    {
-        std::size_t operator()(const QString &key) const { return qHash(key); }
+        Links sameHash;
     };
 
     static void addTo(Group &group, Row &row, Links Row::*links);
@@ -111,7 +107,8 @@ private:
     void fileUnderStation(Row &row);
     void fileUnderDevice(Row &row);
     void fileDevices();
-    void dropKey(const Row &row);
+    Row *rowOfKey(const QString &key) const;
+    void dropKey(Row &row);
     void trackRows(int first, int last);
     void untrackRows(int first, int last);
     void refileRows(int first, int last);
@@ -121,7 +118,7 @@ private:
 
     QStandardItemModel *m_model = nullptr;
     std::unordered_map<const QStandardItem *, Row> m_rows; ///< rows stay where they are in memory
-    std::unordered_map<QString, QStandardItem *, KeyHash> m_itemByKey;
+    QHash<size_t, Group> m_keys; ///< by the hashes of the keys, which are not copied
     UsageKeys m_usageKeys;
     Stations m_stations;
     Stations::value_type *m_lastStation = nullptr; ///< under which a row was filed last

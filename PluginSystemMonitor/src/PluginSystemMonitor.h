@@ -291,6 +291,8 @@ private:
     void handleSetSnoozeResponse(const QVariant &data, bool success);
     /// The text by which the walk names a node that raises an error.
     QString nameInWalk(const QModelIndex &node, int type, const QString &nodeID) const;
+    /// The name of a camera's station, as findDeviceName() has it.
+    QString parentStationName(const QString &cameraID) const;
     void reloadStorageUsage(const QString &stationID);
 
     /// Lists an error under a key, with its name and the time.
@@ -310,6 +312,9 @@ private:
     void clearStationDisconnected(const QString &stationID);
     void monitorCameraStatus(const QString &cameraID, bool connected,
                              const QString &triggerDeviceName);
+    /// Whether such a value of a station may raise an error or clear one. Most values are calm, and
+    /// of stations without a usage error.
+    bool mayChangeUsageErrors(const QString &stationID, int usage, int threshold) const;
     void monitorUsage(ErrorType type, const QString &stationID, int usage, int threshold,
                       const QString &subId);
 };

@@ -16,12 +16,17 @@ namespace {
 // How long the list must be quiet before the errors of each station are recounted.
 constexpr int RecountDelayMs = 500;
 
+qsizetype endOfParentStationID(const QString &deviceID)
+{
+    return deviceID.lastIndexOf(QLatin1Char('/'));
+}
+
 } // namespace
 
 QString getParentStationID(const QString &deviceID)
 {
-    const qsizetype slash = deviceID.lastIndexOf(QLatin1Char('/'));
-    return slash < 0 ? QString() : deviceID.left(slash);
+    const qsizetype end = endOfParentStationID(deviceID);
+    return end < 0 ? QString() : deviceID.left(end);
 }
 
 QString PluginSystemMonitor::uniqueId(ErrorType type, const QString &id, const QString &subId) const
@@ -58,7 +63,7 @@ QString PluginSystemMonitor::getTriggerDeviceName(ErrorCategory category,
     if (category != CameraCategory)
         return QStringLiteral("%1: %2").arg(QObject::tr("Station"), findDeviceName(deviceID));
 
-    const QString stationName = findDeviceName(getParentStationID(deviceID));
+    const QString stationName = parentStationName(deviceID);
     QString cameraName = findDeviceName(deviceID);
     if (cameraName.isEmpty())
         cameraName = QStringLiteral("N/A");
@@ -74,6 +79,13 @@ QString PluginSystemMonitor::findDeviceName(const QString &deviceID) const
         .toMap()
         .value(QStringLiteral("nameRole"))
         .toString();
+}
+
+QString PluginSystemMonitor::parentStationName(const QString &cameraID) const
+{
+    // Only looked up, for every camera of a storm: no copy of the text.
+    const qsizetype length = qMax(qsizetype(0), endOfParentStationID(cameraID));
+    return findDeviceName(QString::fromRawData(cameraID.constData(), length));
 }
 
 bool PluginSystemMonitor::isCameraInTopologyModel(int nodeType) const
@@ -225,14 +237,14 @@ void PluginSystemMonitor::appendError(ErrorCategory category, ErrorType type, co
     // The values in the order of their keys: new nodes for every error would cost as much as its
     // row.
     auto value = errorRecord.begin();
-    *value++ = deviceID;
-    *value++ = static_cast<int>(category);
-    *value++ = getErrorName(type);
-    *value++ = static_cast<int>(type);
-    *value++ = key;
-    *value++ = stationID;
-    *value++ = QDateTime::currentMSecsSinceEpoch();
-    *value++ = triggerDeviceName;
+    (value++)->setValue(deviceID);
+    (value++)->setValue(static_cast<int>(category));
+    (value++)->setValue(getErrorName(type));
+    (value++)->setValue(static_cast<int>(type));
+    (value++)->setValue(key);
+    (value++)->setValue(stationID);
+    (value++)->setValue(QDateTime::currentMSecsSinceEpoch());
+    (value++)->setValue(triggerDeviceName);
     appendSystemErrorModel(key, SystemErrorItemBuilder::create(errorRecord));
 }
 

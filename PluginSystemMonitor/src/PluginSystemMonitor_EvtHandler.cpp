@@ -37,8 +37,10 @@ void PluginSystemMonitor::handleSystemResChgEvent(const QVariant &data, const QS
     monitorMemoryUsage(stationId, memory);
     for (const QVariant &entry : networkList) {
         const QVariantMap usage = entry.toMap();
-        monitorNetworkUsage(stationId, usage.value(KEY_NETWORK_PERCENTAGE).toInt(),
-                            usage.value(KEY_NETWORK_INTERFACE).toString());
+        const int percentage = usage.value(KEY_NETWORK_PERCENTAGE).toInt();
+        if (mayChangeUsageErrors(stationId, percentage, networkThreshold))
+            monitorNetworkUsage(stationId, percentage,
+                                usage.value(KEY_NETWORK_INTERFACE).toString());
     }
 
     if (stationId == focusStationId && resourceModelControl) {

@@ -151,7 +151,7 @@ QString PluginSystemMonitor::nameInWalk(const QModelIndex &node, int type,
     QString name = node.data(Topology::DisplayNameRole).toString();
     if (!isCameraInTopologyModel(type))
         return name;
-    return findDeviceName(getParentStationID(nodeID)) % QStringLiteral(" - ") % name;
+    return parentStationName(nodeID) % QStringLiteral(" - ") % name;
 }
 
 void PluginSystemMonitor::reloadStorageUsage(const QString &stationID)
@@ -222,13 +222,19 @@ void PluginSystemMonitor::monitorNetworkUsage(const QString &stationID, int usag
     monitorUsage(HighNetworkUsage, stationID, usage, networkThreshold, interfaceName);
 }
 
+bool PluginSystemMonitor::mayChangeUsageErrors(const QString &stationID, int usage,
+                                               int threshold) const
+{
+    return usage >= threshold || indexMap.mayHoldUsageError(stationID);
+}
+
 void PluginSystemMonitor::monitorUsage(ErrorType type, const QString &stationID, int usage,
                                        int threshold, const QString &subId)
 {
-    const bool isHigh = usage >= threshold;
-    if (!isHigh && !indexMap.mayHoldUsageError(stationID))
+    if (!mayChangeUsageErrors(stationID, usage, threshold))
         return;
 
+    const bool isHigh = usage >= threshold;
     const QModelIndex error = existError(type, stationID, subId);
     if (isHigh && !error.isValid())
         addSystemError(stationID, type, subId, QString());

@@ -70,10 +70,13 @@ QModelIndex TopologyIndex::find(const QString &id)
     if (!m_isBuilt)
         build();
     // The search compares ids as variants: the number 7 equals the text "7".
-    if (m_hasOtherIds)
+    if (m_isUncertain)
         return searchModel(id);
-    const auto it = m_nodes.constFind(id);
-    return it == m_nodes.cend() ? QModelIndex() : m_model->indexFromItem(it->item);
+    const auto it = m_nodes.constFind(qHash(id));
+    if (it == m_nodes.cend())
+        return QModelIndex();
+    const QModelIndex node = m_model->indexFromItem(it->item);
+    return node.data(Topology::IdRole).toString() == id ? node : QModelIndex();
 }
 
 QModelIndex TopologyIndex::searchModel(const QString &id) const
@@ -84,29 +87,16 @@ QModelIndex TopologyIndex::searchModel(const QString &id) const
         .value(0);
 }
 
-qsizetype TopologyIndex::countNodes(const QModelIndex &parent) const
-{
-    const int rows = m_model->rowCount(parent);
-    qsizetype nodes = rows;
-    for (int row = 0; row < rows; ++row) {
-        // Rows of a model without columns have no index.
-        if (const QModelIndex index = m_model->index(row, 0, parent); index.isValid())
-            nodes += countNodes(index);
-    }
-    return nodes;
-}
-
 void TopologyIndex::build()
 {
     m_isBuilt = true;
-    m_nodes.reserve(countNodes(QModelIndex()));
     addNodes(QModelIndex(), 0, m_model->rowCount() - 1);
 }
 
 void TopologyIndex::discard()
 {
     m_isBuilt = false;
-    m_hasOtherIds = false;
+    m_isUncertain = false;
     m_nodes.clear();
 }
 
@@ -131,13 +121,15 @@ bool TopologyIndex::addNodes(const QModelIndex &parent, int first, int last)
             continue;
         const QVariant id = index.data(Topology::IdRole);
         if (isText(id)) {
-            Node &node = m_nodes[id.toString()];
+            Node &node = m_nodes[qHash(id.toString())];
             if (node.count == 0)
                 node.item = m_model->itemFromIndex(index);
+            else if (m_model->indexFromItem(node.item).data(Topology::IdRole) != id)
+                m_isUncertain = true;
             allNew &= node.count == 0;
             ++node.count;
         } else if (id.isValid()) {
-            m_hasOtherIds = true;
+            m_isUncertain = true;
         }
         allNew &= addNodes(index, 0, m_model->rowCount(index) - 1);
     }
@@ -154,7 +146,7 @@ bool TopologyIndex::removeNodes(const QModelIndex &parent, int first, int last)
             continue;
         const QVariant id = index.data(Topology::IdRole);
         if (isText(id)) {
-            const auto it = m_nodes.constFind(id.toString());
+            const auto it = m_nodes.constFind(qHash(id.toString()));
             if (it == m_nodes.cend() || it->count > 1)
                 allGone = false;
             else
@@ -188,7 +180,7 @@ void TopologyIndex::nodesChanged(const QModelIndex &from, const QModelIndex &to)
     for (int row = from.row(); row <= to.row(); ++row) {
         const QModelIndex index = from.siblingAtRow(row);
         const QVariant id = index.data(Topology::IdRole);
-        const auto it = isText(id) ? m_nodes.constFind(id.toString()) : m_nodes.cend();
+        const auto it = isText(id) ? m_nodes.constFind(qHash(id.toString())) : m_nodes.cend();
         if (it == m_nodes.cend() || it->item != m_model->itemFromIndex(index)) {
             discard();
             return;

@@ -30,7 +30,6 @@ private:
         int count = 0;                 ///< how many nodes have the id
     };
 
-    qsizetype countNodes(const QModelIndex &parent) const;
     void build();
     void discard();
     void beginChange();
@@ -43,9 +42,9 @@ private:
     QModelIndex searchModel(const QString &id) const;
 
     QPointer<QStandardItemModel> m_model;
-    QHash<QString, Node> m_nodes;
+    QHash<size_t, Node> m_nodes; ///< by hash of the id: to copy ids takes longer than the rest
     bool m_isBuilt = false;
-    bool m_hasOtherIds = false; ///< some id is no text, so that the table cannot tell
+    bool m_isUncertain = false; ///< some id is no text, or hashes as another does
     int m_changes = 0;          ///< insertions and removals, announced and not yet done
 };
 
