@@ -37,8 +37,6 @@ void JournalWriter::write(QJsonObject entry)
 
 void JournalWriter::writeLine(const QJsonObject &object)
 {
-    if (!m_failure.isEmpty())
-        return;
     const QByteArray line = QJsonDocument(object).toJson(QJsonDocument::Compact) + '\n';
     // A disk that is nearly full takes a part, and tells what is wrong when it is given the rest.
     for (qint64 written = 0; written < line.size() && m_failure.isEmpty();) {
