@@ -20,7 +20,8 @@ public:
     ReplayRun(JournalPlayer &player, const Journal &journal, QTextStream &out, bool lasts = false);
 
     /// Runs the application. Returns its exit code: Success, also for a journal that was cut off,
-    /// which is said; Failure when the lists differ. Throws InputError when the journal contradicts itself.
+    /// which is said; Failure when the lists differ. Throws InputError when the journal contradicts
+    /// itself.
     int exec();
 
 private:

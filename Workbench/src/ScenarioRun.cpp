@@ -20,9 +20,15 @@
 
 namespace {
 
+// Without a window a page of the user's is tried all the same.
+bool isDashboardNeeded(const Options &options)
+{
+    return !options.isHeadless || !options.screenshotFile.isEmpty() || !options.pageFile.isEmpty();
+}
+
 std::unique_ptr<QQmlEngine> createEngine(const Options &options)
 {
-    if (options.isHeadless && options.screenshotFile.isEmpty())
+    if (!isDashboardNeeded(options))
         return nullptr;
     auto engine = std::make_unique<QQmlEngine>();
     DashboardWindow::expectLoadable(*engine, DashboardWindow::pageUrl(options.pageFile));

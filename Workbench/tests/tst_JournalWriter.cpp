@@ -1,10 +1,10 @@
 #include "JournalWriter.h"
 
+#include "EnvironmentThresholds.h"
 #include "FullDisk.h"
 #include "InputFailure.h"
 #include "JournalReader.h"
 #include "TextFile.h"
-#include "EnvironmentThresholds.h"
 #include "VirtualClock.h"
 
 #include <QDateTime>

@@ -79,6 +79,7 @@ private Q_SLOTS:
     void everythingScenarioShowsEveryKindOfHappening();
     void defaultScenarioLeavesAPictureAndALog();
     void showsAPageOfOnesOwn();
+    void pageIsTriedWithoutAPicture();
     void walkAfterTheEndIsWaitedFor();
     void speaksGerman();
     void jsonIsAllThatIsPrinted();
@@ -201,6 +202,24 @@ void tst_WorkbenchProgram::showsAPageOfOnesOwn()
     const QImage image(picture);
     QCOMPARE(image.pixelColor(1270, 790), QColor(Qt::white));
     QVERIFY(colourCount(image) > 5);
+}
+
+void tst_WorkbenchProgram::pageIsTriedWithoutAPicture()
+{
+    const TextFile page("import QtQuick\n"
+                        "Item {\n"
+                        "    property QtObject plugin\n"
+                        "    property string siteName\n"
+                        "    property bool serverConnected\n"
+                        "    onServerConnectedChanged: console.log(siteName, plugin !== null)\n"
+                        "}\n",
+                        QStringLiteral("Page.qml"));
+    const TextFile scenario(R"({"events": []})");
+    const Outcome outcome =
+        run({QStringLiteral("--headless"), QStringLiteral("--ignore-errors"),
+             QStringLiteral("--page"), page.path(), QStringLiteral("--scenario"), scenario.path()});
+    QCOMPARE(outcome.exitCode, 0);
+    QCOMPARE(outcome.errors, QStringLiteral("qml: Northgate Logistics Centre true\n"));
 }
 
 void tst_WorkbenchProgram::walkAfterTheEndIsWaitedFor()
@@ -339,7 +358,7 @@ void tst_WorkbenchProgram::wrongInputIsRefused_data()
         << QByteArray("import QtQuick\nItem {\n    width: 3 +\n}\n")
         << QStringLiteral("FILE: line 4, column 1: Expected token `numeric literal'");
     QTest::newRow("page of an unknown type")
-        << options("--headless --screenshot FILE.png --page FILE")
+        << options("--headless --page FILE")
         << QByteArray("import QtQuick\nItem {\n    Gauge {}\n}\n")
         << QStringLiteral("FILE: line 3, column 5: Gauge is not a type");
     QTest::newRow("log that is none")
