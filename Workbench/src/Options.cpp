@@ -313,7 +313,7 @@ QString optionsHelp()
 QString defaultPluginFile()
 {
     const QDir program(QCoreApplication::applicationDirPath());
-    const QString built = program.filePath(QStringLiteral(WORKBENCH_BUILT_PLUGIN));
+    QString built = program.filePath(QStringLiteral(WORKBENCH_BUILT_PLUGIN));
     if (QFile::exists(built))
         return built;
     return program.filePath(QStringLiteral(WORKBENCH_INSTALLED_PLUGIN));

@@ -63,7 +63,7 @@ std::vector<JsonObject> Reader::oneByOne(std::vector<JsonObject> entries)
 
 QString Reader::ownPart(JsonObject &object)
 {
-    const QString part = object.text(IdKey);
+    QString part = object.text(IdKey);
     if (part.contains(u'/'))
         object.fail(IdKey, tr("an id without \"/\""), tr("\"%1\"").arg(part));
     return part;
@@ -79,7 +79,7 @@ void Reader::expectNew(JsonObject &object, const QString &id, QHash<QString, QSt
 
 QString Reader::nodeId(JsonObject &object, const QString &parentId)
 {
-    const QString id = childNodeId(parentId, ownPart(object));
+    QString id = childNodeId(parentId, ownPart(object));
     if (id == ThisMachineId)
         object.fail(IdKey, tr("an id other than that of this machine"), tr("\"%1\"").arg(id));
     expectNew(object, id, m_nodePlaces);

@@ -19,6 +19,9 @@ public:
     Program(const QString &program, const QStringList &arguments);
     ~Program();
 
+    Program(const Program &) = delete;
+    Program &operator=(const Program &) = delete;
+
     /// Waits for the first line of its output. False when it ends without one.
     bool printsALine();
 
@@ -45,6 +48,9 @@ public:
     /// @param cpuThreshold in percent; no load is above 101
     HeadlessWorkbench(const QByteArray &site, int cpuThreshold);
     ~HeadlessWorkbench();
+
+    HeadlessWorkbench(const HeadlessWorkbench &) = delete;
+    HeadlessWorkbench &operator=(const HeadlessWorkbench &) = delete;
 
     /// Waits for lines that are printed after those of the call before, in any order.
     bool prints(QStringList texts);
