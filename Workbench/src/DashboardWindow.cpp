@@ -1,11 +1,13 @@
 #include "DashboardWindow.h"
 
 #include "HostError.h"
+#include "InputError.h"
 
 #include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
 #include <QImage>
+#include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQmlError>
 #include <QQmlProperty>
@@ -18,12 +20,29 @@ constexpr QSize UsualSize(1280, 800);
 constexpr QSize MinimumSize(1024, 640);
 constexpr int SmoothingSamples = 4;
 
-QString describe(const QList<QQmlError> &errors)
+const QString ImportPath = QStringLiteral("qrc:/qt/qml");
+
+// An error without a place of its own is one of the page as a whole.
+QString describe(const QQmlError &error, const QUrl &source)
+{
+    const QUrl url = error.url().isEmpty() ? source : error.url();
+    const QString file = url.isLocalFile() ? url.toLocalFile() : url.toString();
+    if (error.line() <= 0)
+        return file + QStringLiteral(": ") + error.description();
+    return DashboardWindow::tr("%1: line %2, column %3: %4")
+        .arg(file, QString::number(error.line()), QString::number(error.column()),
+             error.description());
+}
+
+[[noreturn]] void refuse(const QUrl &source, const QList<QQmlError> &errors)
 {
     QStringList lines;
     for (const QQmlError &error : errors)
-        lines.append(error.toString());
-    return lines.join(u'\n');
+        lines.append(describe(error, source));
+    const QString text = lines.join(u'\n');
+    if (source == DashboardWindow::dashboardUrl())
+        throw HostError(DashboardWindow::tr("The dashboard cannot be loaded: %1").arg(text));
+    throw InputError(text);
 }
 
 } // namespace
@@ -33,11 +52,25 @@ QUrl DashboardWindow::dashboardUrl()
     return QUrl(QStringLiteral("qrc:/qt/qml/Dashboard/DashboardView.qml"));
 }
 
+QUrl DashboardWindow::pageUrl(const QString &fileName)
+{
+    return fileName.isEmpty() ? dashboardUrl()
+                              : QUrl::fromLocalFile(QFileInfo(fileName).absoluteFilePath());
+}
+
+void DashboardWindow::expectLoadable(QQmlEngine &engine, const QUrl &source)
+{
+    engine.addImportPath(ImportPath);
+    const QQmlComponent component(&engine, source);
+    if (component.isError())
+        refuse(source, component.errors());
+}
+
 DashboardWindow::DashboardWindow(QQmlEngine &engine, QObject &plugin, const QString &siteName,
                                  const QUrl &source)
     : QQuickView(&engine, nullptr)
 {
-    engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
+    engine.addImportPath(ImportPath);
     // Drawn by OpenGL, shapes have jagged edges without this.
     QSurfaceFormat smooth = requestedFormat();
     smooth.setSamples(SmoothingSamples);
@@ -50,7 +83,7 @@ DashboardWindow::DashboardWindow(QQmlEngine &engine, QObject &plugin, const QStr
                           {QStringLiteral("siteName"), siteName}});
     setSource(source);
     if (status() != QQuickView::Ready)
-        throw HostError(tr("The dashboard cannot be loaded: %1").arg(describe(errors())));
+        refuse(source, errors());
     QQmlProperty(rootObject(), QStringLiteral("dark"))
         .connectNotifySignal(this, SLOT(announceDark()));
 }

@@ -14,7 +14,14 @@ public:
     /// Where the dashboard's root component is.
     static QUrl dashboardUrl();
 
-    /// Loads the dashboard. Throws HostError when it cannot be loaded.
+    /// Where a page of the user's is; the dashboard for an empty name.
+    static QUrl pageUrl(const QString &fileName);
+
+    /// Throws as the constructor does when a page cannot be compiled, before anything is done.
+    static void expectLoadable(QQmlEngine &engine, const QUrl &source);
+
+    /// Loads the dashboard. When it cannot be loaded, throws HostError for the one of this program
+    /// and InputError, which names place and reason, for another.
     ///
     /// @param engine   must outlive the window
     /// @param plugin   the initialised plug-in, which must outlive the window

@@ -1,7 +1,7 @@
 #ifndef EXITCODE_H
 #define EXITCODE_H
 
-/// What the program's exit code says to a script.
+/// What the exit code of a program says to a script.
 namespace ExitCode {
 
 constexpr int Success = 0;
@@ -9,7 +9,7 @@ constexpr int Success = 0;
 constexpr int ErrorsRemain = 1;
 /// An option or a file is wrong; nothing has been done.
 constexpr int BadInput = 2;
-/// The work could not be done: no usable plug-in, a picture that cannot be written.
+/// The work could not be done: no usable plug-in, a port in use, a picture that cannot be written.
 constexpr int Failure = 3;
 
 } // namespace ExitCode

@@ -1,9 +1,9 @@
 #include "JournalWriter.h"
 
 #include "Clock.h"
+#include "EnvironmentThresholds.h"
 #include "InputError.h"
 #include "JournalKeys.h"
-#include "Thresholds.h"
 
 #include <QDateTime>
 #include <QJsonDocument>
@@ -23,6 +23,10 @@ JournalWriter::JournalWriter(const QString &fileName, const QString &pluginId, c
                {JournalKeys::Workbench, QCoreApplication::applicationVersion()},
                {JournalKeys::Recorded, QDateTime::currentDateTime().toString(Qt::ISODate)},
                {JournalKeys::Environment, thresholdsOfEnvironment()}});
+    if (!m_failure.isEmpty()) {
+        m_file.remove();
+        throw InputError(m_failure);
+    }
 }
 
 void JournalWriter::write(QJsonObject entry)
@@ -33,9 +37,13 @@ void JournalWriter::write(QJsonObject entry)
 
 void JournalWriter::writeLine(const QJsonObject &object)
 {
-    if (!m_failure.isEmpty())
-        return;
     const QByteArray line = QJsonDocument(object).toJson(QJsonDocument::Compact) + '\n';
-    if (m_file.write(line) != line.size())
-        m_failure = tr("%1: cannot be written: %2").arg(m_file.fileName(), m_file.errorString());
+    // A disk that is nearly full takes a part, and tells what is wrong when it is given the rest.
+    for (qint64 written = 0; written < line.size() && m_failure.isEmpty();) {
+        const qint64 taken = m_file.write(line.constData() + written, line.size() - written);
+        if (taken <= 0)
+            m_failure =
+                tr("%1: cannot be written: %2").arg(m_file.fileName(), m_file.errorString());
+        written += taken;
+    }
 }

@@ -148,6 +148,17 @@ std::vector<JsonObject> JsonObject::requiredObjects(const QString &key)
     return objects;
 }
 
+JsonObject JsonObject::numbered(const QStringList &keys, int number) const
+{
+    JsonObject copy = *this;
+    for (const QString &key : keys) {
+        const QJsonValue value = m_object.value(key);
+        if (value.isString())
+            copy.m_object.insert(key, value.toString().replace(u'#', QString::number(number)));
+    }
+    return copy;
+}
+
 void JsonObject::expectNoMore() const
 {
     const QStringList keys = m_object.keys();

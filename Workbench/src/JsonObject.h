@@ -52,6 +52,9 @@ public:
     /// The objects of a list that must be there, if only as an empty one.
     std::vector<JsonObject> requiredObjects(const QString &key);
 
+    /// This object, with a number in place of each "#" in the texts of some keys.
+    JsonObject numbered(const QStringList &keys, int number) const;
+
     /// Throws when the object has a key that has not been asked for.
     void expectNoMore() const;
 

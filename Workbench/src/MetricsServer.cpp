@@ -1,6 +1,6 @@
 #include "MetricsServer.h"
 
-#include "InputError.h"
+#include "HostError.h"
 
 #include <QRegularExpression>
 #include <QTcpSocket>
@@ -62,7 +62,7 @@ MetricsServer::MetricsServer(Workbench &workbench, quint16 port, const MetricsLi
 {
     connect(&m_tcp, &QTcpServer::newConnection, this, &MetricsServer::takeConnections);
     if (!m_tcp.listen(QHostAddress::LocalHost, port))
-        throw InputError(
+        throw HostError(
             tr("--metrics: port %1 cannot be used: %2").arg(port).arg(m_tcp.errorString()));
 }
 

@@ -26,7 +26,7 @@ class MetricsServer : public QObject
 
 public:
     /// @param workbench must outlive the server
-    /// @param port      0 for one that is free. Throws InputError when it cannot be used
+    /// @param port      0 for one that is free. Throws HostError when it cannot be used
     MetricsServer(Workbench &workbench, quint16 port, const MetricsLimits &limits = {});
 
     quint16 port() const { return m_tcp.serverPort(); }

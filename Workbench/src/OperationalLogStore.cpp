@@ -1,6 +1,6 @@
 #include "OperationalLogStore.h"
 
-#include "HostError.h"
+#include "InputError.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -52,13 +52,13 @@ OperationalLogStore::OperationalLogStore(const QString &fileName)
         database.setDatabaseName(databaseName(fileName));
         QSqlQuery query(database);
         if (!database.open())
-            failure = database.lastError().text();
+            failure = database.lastError().databaseText();
         else if (!query.exec(QLatin1String(CreateTable)))
-            failure = query.lastError().text();
+            failure = query.lastError().databaseText();
     }
     if (!failure.isEmpty()) {
         QSqlDatabase::removeDatabase(m_connectionName);
-        throw HostError(
+        throw InputError(
             tr("%1: cannot be used for the operational log: %2").arg(fileName, failure));
     }
 }

@@ -27,7 +27,7 @@ class OperationalLogStore
 
 public:
     /// Opens a file, which is made if need be; an empty name keeps the log in memory. Throws
-    /// HostError when the file cannot be used.
+    /// InputError when the file cannot be used.
     explicit OperationalLogStore(const QString &fileName);
     ~OperationalLogStore();
 

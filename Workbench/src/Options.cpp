@@ -1,11 +1,9 @@
 #include "Options.h"
 
 #include "BundledFile.h"
-#include "HelpText.h"
+#include "CommandLine.h"
 #include "InputError.h"
 
-#include <QCommandLineParser>
-#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 
@@ -27,9 +25,11 @@ public:
     QString help() const;
 
 private:
-    QList<OptionGroup> optionGroups() const;
-    void readServer(Options &options) const;
+    void readSite(Options &options) const;
     void readReplay(Options &options) const;
+    void readServer(Options &options) const;
+    void readView(Options &options) const;
+    void readReports(Options &options) const;
     void expectWithoutServer(const QCommandLineOption &option) const;
     double number(const QCommandLineOption &option, double greatest) const;
     quint32 seed() const;
@@ -40,14 +40,10 @@ private:
         QStringLiteral("headless"),
         tr("Run without a window: play the scenario to its end, print each change of the error "
            "list, then a summary. This is what happens, too, when there is no display.")};
-    const QCommandLineOption m_site{
-        QStringLiteral("site"),
-        tr("The site: a JSON file, or the name of a bundled one (default, real)."), tr("file"),
-        QStringLiteral("default")};
     const QCommandLineOption m_scenario{
         QStringLiteral("scenario"),
         tr("What happens at the site: a JSON file, or the name of a bundled one (default, "
-           "everything, storm)."),
+           "everything, flap, storm)."),
         tr("file"), QStringLiteral("default")};
     const QCommandLineOption m_speed{
         QStringLiteral("speed"),
@@ -77,9 +73,6 @@ private:
         tr("When to take it, in seconds of the scenario. Without this the scenario decides, or it "
            "is taken at the end."),
         tr("seconds")};
-    const QCommandLineOption m_language{QStringLiteral("language"),
-                                        tr("The language of all texts: en or de."), tr("code"),
-                                        QStringLiteral("en")};
     const QCommandLineOption m_page{
         QStringLiteral("page"),
         tr("Show this QML file instead of the dashboard, with the same properties."), tr("file")};
@@ -91,8 +84,7 @@ private:
     const QCommandLineOption m_metrics{
         QStringLiteral("metrics"),
         tr("Offer figures for monitoring, as OpenMetrics text at http://127.0.0.1:PORT/metrics. "
-           "With "
-           "0 a free port is chosen. The address is printed on standard error."),
+           "With 0 a free port is chosen. The address is printed on standard error."),
         tr("port")};
     const QCommandLineOption m_plugin{
         QStringLiteral("plugin"),
@@ -122,83 +114,61 @@ private:
            "does so as fast as possible. The error list is printed in the end, and "
            "compared with the recorded one."),
         tr("file")};
-    const QCommandLineOption m_help{{QStringLiteral("h"), QStringLiteral("help")},
-                                    tr("Print this help.")};
-    const QCommandLineOption m_version{{QStringLiteral("v"), QStringLiteral("version")},
-                                       tr("Print the version.")};
-    QCommandLineParser m_parser;
+    CommandLine m_line;
 };
 
 OptionParser::OptionParser()
 {
-    const QList<OptionGroup> groups = optionGroups();
-    for (const OptionGroup &group : groups)
-        m_parser.addOptions(group.options);
-}
-
-QList<OptionGroup> OptionParser::optionGroups() const
-{
-    return {
-        {tr("What is shown:"),
-         {m_site, m_scenario, m_speed, m_seed, m_loop, m_replay, m_page, m_language}},
-        {tr("Site server:"), {m_server, m_token}},
-        {tr("Files that are written:"), {m_screenshot, m_screenshotAt, m_log, m_store, m_record}},
-        {tr("For scripts and monitoring:"), {m_headless, m_format, m_ignoreErrors, m_metrics}},
-        {tr("Others:"), {m_plugin, m_help, m_version}}};
+    m_line.add(
+        {{tr("What is shown:"),
+          {m_line.site, m_scenario, m_speed, m_seed, m_loop, m_replay, m_page, m_line.language}},
+         {tr("Site server:"), {m_server, m_token}},
+         {tr("Files that are written:"), {m_screenshot, m_screenshotAt, m_log, m_store, m_record}},
+         {tr("For scripts and monitoring:"), {m_headless, m_format, m_ignoreErrors, m_metrics}},
+         {tr("Others:"), {m_plugin, m_line.help, m_line.version}}});
 }
 
 Options OptionParser::parse(const QStringList &arguments)
 {
-    if (!m_parser.parse(arguments))
-        throw InputError(m_parser.errorText());
-    if (!m_parser.positionalArguments().isEmpty())
-        throw InputError(tr("Expected options only, found \"%1\".")
-                             .arg(m_parser.positionalArguments().constFirst()));
+    m_line.parse(arguments);
     Options options;
-    options.wantsHelp = m_parser.isSet(m_help);
-    options.wantsVersion = m_parser.isSet(m_version);
-    options.isHeadless = m_parser.isSet(m_headless);
-    options.format = format();
-    if (m_parser.isSet(m_metrics))
-        options.metricsPort = metricsPort();
-    options.isLooped = m_parser.isSet(m_loop);
-    options.ignoresErrors = m_parser.isSet(m_ignoreErrors);
-    options.siteFile = bundledOrFile(QStringLiteral("sites"), m_parser.value(m_site));
-    const bool onlyWatches = m_parser.isSet(m_server) && !m_parser.isSet(m_scenario);
-    options.scenarioFile =
-        bundledOrFile(QStringLiteral("scenarios"),
-                      onlyWatches ? QStringLiteral("watch") : m_parser.value(m_scenario));
-    options.pluginFile = m_parser.value(m_plugin);
-    options.pageFile = m_parser.value(m_page);
-    if (m_parser.isSet(m_page) && !QFileInfo(options.pageFile).isFile())
-        throw InputError(tr("--page: expected a QML file, found \"%1\".").arg(options.pageFile));
-    options.language = m_parser.value(m_language);
+    options.wantsHelp = m_line.isSet(m_line.help);
+    options.wantsVersion = m_line.isSet(m_line.version);
+    options.language = m_line.value(m_line.language);
+    options.pluginFile = m_line.value(m_plugin);
+    readSite(options);
     readReplay(options);
-    if (!options.isFast)
-        options.speed = number(m_speed, MaxSpeed);
-    options.seed = seed();
-    options.screenshotFile = m_parser.value(m_screenshot);
-    if (m_parser.isSet(m_screenshotAt) && options.screenshotFile.isEmpty())
-        throw InputError(tr("--screenshot-at: expected --screenshot FILE as well."));
-    if (m_parser.isSet(m_screenshotAt))
-        options.screenshotAtMs = std::llround(number(m_screenshotAt, MaxSeconds) * 1000.0);
-    if (m_parser.isSet(m_log))
-        options.logFile = m_parser.value(m_log);
-    options.storeFile = m_parser.value(m_store);
     readServer(options);
+    readView(options);
+    readReports(options);
     return options;
+}
+
+void OptionParser::readSite(Options &options) const
+{
+    options.siteFile = m_line.file(m_line.site, QStringLiteral("sites"));
+    const bool onlyWatches = m_line.isSet(m_server) && !m_line.isSet(m_scenario);
+    options.scenarioFile = onlyWatches
+                               ? bundledOrFile(QStringLiteral("scenarios"), QStringLiteral("watch"))
+                               : m_line.file(m_scenario, QStringLiteral("scenarios"));
+    options.seed = seed();
+    options.isLooped = m_line.isSet(m_loop);
+    options.storeFile = m_line.value(m_store);
 }
 
 void OptionParser::readReplay(Options &options) const
 {
-    options.recordFile = m_parser.value(m_record);
-    options.replayFile = m_parser.value(m_replay);
-    if (options.replayFile.isEmpty())
+    options.recordFile = m_line.value(m_record);
+    options.replayFile = m_line.value(m_replay);
+    const bool isReplay = !options.replayFile.isEmpty();
+    options.isFast = isReplay && m_line.value(m_speed) == QStringLiteral("max");
+    if (!options.isFast)
+        options.speed = number(m_speed, MaxSpeed);
+    if (!isReplay)
         return;
-    options.isFast = m_parser.value(m_speed) == QStringLiteral("max");
-    for (const QCommandLineOption &other :
-         {m_record, m_site, m_scenario, m_seed, m_loop, m_screenshot, m_server, m_store, m_log}) {
-        if (m_parser.isSet(other))
+    for (const QCommandLineOption &other : {m_record, m_line.site, m_scenario, m_seed, m_loop,
+                                            m_screenshot, m_server, m_store, m_log}) {
+        if (m_line.isSet(other))
             throw InputError(
                 tr("--%1: expected without --replay.").arg(other.names().constFirst()));
     }
@@ -206,13 +176,13 @@ void OptionParser::readReplay(Options &options) const
 
 void OptionParser::readServer(Options &options) const
 {
-    options.tokenFile = m_parser.value(m_token);
-    if (!m_parser.isSet(m_server)) {
+    options.tokenFile = m_line.value(m_token);
+    if (!m_line.isSet(m_server)) {
         if (!options.tokenFile.isEmpty())
             throw InputError(tr("--token-file: expected --server URL as well."));
         return;
     }
-    const QString text = m_parser.value(m_server);
+    const QString text = m_line.value(m_server);
     options.serverUrl = QUrl(text, QUrl::StrictMode);
     const QStringList schemes{QStringLiteral("ws"), QStringLiteral("wss")};
     if (!options.serverUrl.isValid() || !schemes.contains(options.serverUrl.scheme())
@@ -227,43 +197,67 @@ void OptionParser::readServer(Options &options) const
 // The snoozes and the clock are that server's.
 void OptionParser::expectWithoutServer(const QCommandLineOption &option) const
 {
-    if (m_parser.isSet(option))
+    if (m_line.isSet(option))
         throw InputError(tr("--%1: expected without --server.").arg(option.names().constFirst()));
+}
+
+void OptionParser::readView(Options &options) const
+{
+    options.pageFile = m_line.value(m_page);
+    if (m_line.isSet(m_page) && !QFileInfo(options.pageFile).isFile())
+        throw InputError(tr("--page: expected a QML file, found \"%1\".").arg(options.pageFile));
+    options.screenshotFile = m_line.value(m_screenshot);
+    if (!m_line.isSet(m_screenshotAt))
+        return;
+    if (options.screenshotFile.isEmpty())
+        throw InputError(tr("--screenshot-at: expected --screenshot FILE as well."));
+    options.screenshotAtMs = std::llround(number(m_screenshotAt, MaxSeconds) * 1000.0);
+}
+
+void OptionParser::readReports(Options &options) const
+{
+    options.isHeadless = m_line.isSet(m_headless);
+    options.format = format();
+    options.ignoresErrors = m_line.isSet(m_ignoreErrors);
+    if (m_line.isSet(m_metrics))
+        options.metricsPort = metricsPort();
+    if (m_line.isSet(m_log))
+        options.logFile = m_line.value(m_log);
 }
 
 QString OptionParser::help() const
 {
-    QStringList sections{
+    const QStringList sections{
         tr("Usage: workbench [options]\n"),
         tr("Runs the system-monitor plug-in in a stand-in for its host: with a site of\n"
            "recording stations and cameras, a scenario of what happens there, and this\n"
-           "machine's own load.\n")};
-    const QList<OptionGroup> groups = optionGroups();
-    for (const OptionGroup &group : groups)
-        sections.append(helpText(group));
-    sections.append(tr("Examples:\n"
-                       "  workbench\n"
-                       "      show the dashboard with the bundled site and scenario\n"
-                       "  workbench --headless --scenario everything --speed 6\n"
-                       "      print every kind of happening, six times as fast\n"
-                       "  workbench --headless --screenshot picture.png\n"
-                       "      save a picture of the dashboard as well\n"
-                       "  workbench --server ws://127.0.0.1:8765\n"
-                       "      show the site of a site-server\n"
-                       "  workbench --headless --format json --ignore-errors\n"
-                       "      print one JSON object a line for a program to read\n"));
-    sections.append(tr("Exit codes:\n"
-                       "  0  all went well\n"
-                       "  1  errors are listed at the end of a run without a window\n"
-                       "  2  an option or a file is wrong\n"
-                       "  3  the work could not be done\n"));
+           "machine's own load.\n"),
+        m_line.optionsText(),
+        tr("Examples:\n"
+           "  workbench\n"
+           "      show the dashboard with the bundled site and scenario\n"
+           "  workbench --headless --scenario everything --speed 6\n"
+           "      print every kind of happening, six times as fast\n"
+           "  workbench --site large --scenario flap\n"
+           "      let ten thousand cameras flap for a minute\n"
+           "  workbench --headless --screenshot picture.png\n"
+           "      save a picture of the dashboard as well\n"
+           "  workbench --server ws://127.0.0.1:8765\n"
+           "      show the site of a site-server\n"
+           "  workbench --headless --format json --ignore-errors\n"
+           "      print one JSON object a line for a program to read\n"),
+        tr("Exit codes:\n"
+           "  0  all went well\n"
+           "  1  errors are listed at the end of a run without a window\n"
+           "  2  an option or a file is wrong\n"
+           "  3  the work could not be done\n")};
     return sections.join(u'\n');
 }
 
 double OptionParser::number(const QCommandLineOption &option, double greatest) const
 {
     bool isNumber = false;
-    const QString text = m_parser.value(option);
+    const QString text = m_line.value(option);
     const double number = text.toDouble(&isNumber);
     if (!isNumber || !(number > 0 && number <= greatest))
         throw InputError(tr("--%1: expected a number greater than 0 and up to %2, found \"%3\".")
@@ -276,7 +270,7 @@ double OptionParser::number(const QCommandLineOption &option, double greatest) c
 quint32 OptionParser::seed() const
 {
     bool isNumber = false;
-    const QString text = m_parser.value(m_seed);
+    const QString text = m_line.value(m_seed);
     const quint32 seed = text.toUInt(&isNumber);
     if (!isNumber)
         throw InputError(
@@ -286,7 +280,7 @@ quint32 OptionParser::seed() const
 
 ReportFormat OptionParser::format() const
 {
-    const QString name = m_parser.value(m_format);
+    const QString name = m_line.value(m_format);
     if (name == QStringLiteral("text"))
         return ReportFormat::Text;
     if (name == QStringLiteral("json"))
@@ -297,7 +291,7 @@ ReportFormat OptionParser::format() const
 quint16 OptionParser::metricsPort() const
 {
     bool isPort = false;
-    const QString text = m_parser.value(m_metrics);
+    const QString text = m_line.value(m_metrics);
     const quint16 port = text.toUShort(&isPort);
     if (!isPort)
         throw InputError(tr("--metrics: expected a port from 0 to 65535, found \"%1\".").arg(text));
@@ -319,7 +313,7 @@ QString optionsHelp()
 QString defaultPluginFile()
 {
     const QDir program(QCoreApplication::applicationDirPath());
-    const QString built = program.filePath(QStringLiteral(WORKBENCH_BUILT_PLUGIN));
+    QString built = program.filePath(QStringLiteral(WORKBENCH_BUILT_PLUGIN));
     if (QFile::exists(built))
         return built;
     return program.filePath(QStringLiteral(WORKBENCH_INSTALLED_PLUGIN));

@@ -7,8 +7,6 @@
 
 #include <QTextStream>
 
-#include <cstdlib>
-
 ReplayRun::ReplayRun(JournalPlayer &player, const Journal &journal, QTextStream &out, bool lasts)
     : m_player(player)
     , m_journal(journal)

@@ -19,8 +19,9 @@ public:
     /// @param lasts  whether the run lasts until the user ends it, not until the journal does
     ReplayRun(JournalPlayer &player, const Journal &journal, QTextStream &out, bool lasts = false);
 
-    /// Runs the application. Returns its exit code: 0, also for a journal that was cut off, which
-    /// is said; 1 when the lists differ. Throws InputError when the journal contradicts itself.
+    /// Runs the application. Returns its exit code: Success, also for a journal that was cut off,
+    /// which is said; Failure when the lists differ. Throws InputError when the journal contradicts
+    /// itself.
     int exec();
 
 private:

@@ -1,10 +1,8 @@
 #include "ServerOptions.h"
 
-#include "BundledFile.h"
+#include "CommandLine.h"
 #include "InputError.h"
 
-#include <QCommandLineParser>
-#include <QCoreApplication>
 #include <QUrl>
 
 namespace {
@@ -17,20 +15,16 @@ public:
     OptionParser();
 
     ServerOptions parse(const QStringList &arguments);
-    QString help() const { return m_parser.helpText(); }
+    QString help() const;
 
 private:
     void readAddress(ServerOptions &options) const;
 
-    const QCommandLineOption m_site{
-        QStringLiteral("site"),
-        tr("The site: a JSON file, or the name of a bundled one (default, real)."), tr("file"),
-        QStringLiteral("default")};
     const QCommandLineOption m_scenario{
         QStringLiteral("scenario"),
         tr("Let happen at the site what a scenario tells: a JSON file, or the name of a bundled "
-           "one (default, everything). What it tells of clients and their users is left out. "
-           "Without this nothing happens but what clients ask for."),
+           "one (default, everything, flap, storm). What it tells of clients and their users is "
+           "left out. Without this nothing happens but what clients ask for."),
         tr("file")};
     const QCommandLineOption m_store{
         QStringLiteral("store"),
@@ -48,50 +42,54 @@ private:
            "characters in one line. It travels as it is; see docs/site-protocol.md for "
            "encryption."),
         tr("file")};
-    const QCommandLineOption m_help{{QStringLiteral("h"), QStringLiteral("help")},
-                                    tr("Print this help.")};
-    const QCommandLineOption m_version{{QStringLiteral("v"), QStringLiteral("version")},
-                                       tr("Print the version.")};
-    QCommandLineParser m_parser;
+    CommandLine m_line;
 };
 
 OptionParser::OptionParser()
 {
-    m_parser.setApplicationDescription(
-        tr("Serves a simulated video-surveillance site to Workbenches: the states of its stations, "
-           "cameras, volumes and recordings, and the snoozes, which all its clients share. It runs "
-           "until it is ended.\n"
-           "\n"
-           "  site-server --store snoozes.sqlite          serve the bundled site on this machine\n"
-           "  workbench --server ws://127.0.0.1:8765      show it, in another terminal\n"
-           "\n"
-           "Exit codes: 1 the work could not be done, 2 an option or a file is wrong."));
-    m_parser.addOptions({m_site, m_scenario, m_store, m_listen, m_token, m_help, m_version});
+    m_line.add({{tr("What is served:"), {m_line.site, m_scenario, m_store}},
+                {tr("To whom:"), {m_listen, m_token}},
+                {tr("Others:"), {m_line.language, m_line.help, m_line.version}}});
 }
 
 ServerOptions OptionParser::parse(const QStringList &arguments)
 {
-    if (!m_parser.parse(arguments))
-        throw InputError(m_parser.errorText());
-    if (!m_parser.positionalArguments().isEmpty())
-        throw InputError(tr("Expected options only, found \"%1\".")
-                             .arg(m_parser.positionalArguments().constFirst()));
+    m_line.parse(arguments);
     ServerOptions options;
-    options.wantsHelp = m_parser.isSet(m_help);
-    options.wantsVersion = m_parser.isSet(m_version);
-    options.siteFile = bundledOrFile(QStringLiteral("sites"), m_parser.value(m_site));
-    if (m_parser.isSet(m_scenario))
-        options.scenarioFile =
-            bundledOrFile(QStringLiteral("scenarios"), m_parser.value(m_scenario));
-    options.storeFile = m_parser.value(m_store);
-    options.tokenFile = m_parser.value(m_token);
+    options.wantsHelp = m_line.isSet(m_line.help);
+    options.wantsVersion = m_line.isSet(m_line.version);
+    options.language = m_line.value(m_line.language);
+    options.siteFile = m_line.file(m_line.site, QStringLiteral("sites"));
+    if (m_line.isSet(m_scenario))
+        options.scenarioFile = m_line.file(m_scenario, QStringLiteral("scenarios"));
+    options.storeFile = m_line.value(m_store);
+    options.tokenFile = m_line.value(m_token);
     readAddress(options);
     return options;
 }
 
+QString OptionParser::help() const
+{
+    const QStringList sections{
+        tr("Usage: site-server [options]\n"),
+        tr("Serves a simulated video-surveillance site to Workbenches: the states of its\n"
+           "stations, cameras, volumes and recordings, and the snoozes, which all its\n"
+           "clients share. It runs until it is ended.\n"),
+        m_line.optionsText(),
+        tr("Examples:\n"
+           "  site-server --store snoozes.sqlite\n"
+           "      serve the bundled site on this machine\n"
+           "  workbench --server ws://127.0.0.1:8765\n"
+           "      show it, in another terminal\n"),
+        tr("Exit codes:\n"
+           "  2  an option or a file is wrong\n"
+           "  3  the work could not be done\n")};
+    return sections.join(u'\n');
+}
+
 void OptionParser::readAddress(ServerOptions &options) const
 {
-    const QString text = m_parser.value(m_listen);
+    const QString text = m_line.value(m_listen);
     const QUrl url(QStringLiteral("ws://") + text, QUrl::StrictMode);
     const bool isPlain = url.isValid() && url.path().isEmpty() && !url.hasQuery()
                          && !url.hasFragment() && url.userInfo().isEmpty();

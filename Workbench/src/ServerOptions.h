@@ -12,6 +12,7 @@ struct ServerOptions
     QString scenarioFile; ///< a file or a resource; empty for none
     QString storeFile;    ///< empty for none
     QString tokenFile;    ///< empty for none
+    QString language;     ///< as Catalogues takes it
     QHostAddress address;
     quint16 port = 0; ///< 0 for any that is free
     bool wantsHelp = false;

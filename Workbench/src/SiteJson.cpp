@@ -8,9 +8,17 @@
 #include <QHash>
 #include <QJsonArray>
 
+#include <utility>
+
 namespace {
 
 constexpr int MaxDays = 36'500;
+constexpr int MaxAlike = 10'000;
+constexpr int MaxNodes = 100'000;
+
+const QString IdKey = QStringLiteral("id");
+const QString NameKey = QStringLiteral("name");
+const QString CountKey = QStringLiteral("count");
 
 class Reader
 {
@@ -22,6 +30,8 @@ public:
     static RecordingGroup recordingGroup(JsonObject &object);
     static void storage(JsonObject &object, Station &station);
 
+    static std::vector<JsonObject> oneByOne(std::vector<JsonObject> entries);
+
     QString nodeId(JsonObject &object, const QString &parentId);
     Camera camera(JsonObject &object, const QString &stationId);
     Station station(JsonObject &object, const QString &parentId);
@@ -32,37 +42,55 @@ private:
     QHash<QString, QString> m_nodePlaces; // id to where it was first used
 };
 
+// An entry with a count stands for as many nodes.
+std::vector<JsonObject> Reader::oneByOne(std::vector<JsonObject> entries)
+{
+    std::vector<JsonObject> nodes;
+    for (JsonObject &entry : entries) {
+        if (!entry.has(CountKey)) {
+            nodes.push_back(std::move(entry));
+            continue;
+        }
+        const int count = entry.wholeNumber(CountKey, 1, MaxAlike);
+        const QString id = entry.text(IdKey);
+        if (!id.contains(u'#'))
+            entry.fail(IdKey, tr("an id with \"#\" for the number"), tr("\"%1\"").arg(id));
+        for (int number = 1; number <= count; ++number)
+            nodes.push_back(entry.numbered({IdKey, NameKey}, number));
+    }
+    return nodes;
+}
+
 QString Reader::ownPart(JsonObject &object)
 {
-    const QString key = QStringLiteral("id");
-    const QString part = object.text(key);
+    QString part = object.text(IdKey);
     if (part.contains(u'/'))
-        object.fail(key, tr("an id without \"/\""), tr("\"%1\"").arg(part));
+        object.fail(IdKey, tr("an id without \"/\""), tr("\"%1\"").arg(part));
     return part;
 }
 
 void Reader::expectNew(JsonObject &object, const QString &id, QHash<QString, QString> &places)
 {
-    const QString key = QStringLiteral("id");
     if (places.contains(id))
-        object.fail(key, tr("an id that is used once"),
+        object.fail(IdKey, tr("an id that is used once"),
                     tr("\"%1\" as at %2").arg(id, places.value(id)));
-    places.insert(id, object.placeOf(key));
+    places.insert(id, object.placeOf(IdKey));
 }
 
 QString Reader::nodeId(JsonObject &object, const QString &parentId)
 {
-    const QString id = childNodeId(parentId, ownPart(object));
+    QString id = childNodeId(parentId, ownPart(object));
     if (id == ThisMachineId)
-        object.fail(QStringLiteral("id"), tr("an id other than that of this machine"),
-                    tr("\"%1\"").arg(id));
+        object.fail(IdKey, tr("an id other than that of this machine"), tr("\"%1\"").arg(id));
     expectNew(object, id, m_nodePlaces);
+    if (m_nodePlaces.size() > MaxNodes)
+        object.fail(IdKey, tr("%1 stations and cameras at most").arg(MaxNodes), tr("one more"));
     return id;
 }
 
 Volume Reader::volume(JsonObject &object)
 {
-    Volume volume{object.text(QStringLiteral("id")), object.text(QStringLiteral("name")),
+    Volume volume{object.text(IdKey), object.text(NameKey),
                   object.flag(QStringLiteral("connected"), true)};
     object.expectNoMore();
     return volume;
@@ -70,7 +98,7 @@ Volume Reader::volume(JsonObject &object)
 
 RecordingGroup Reader::recordingGroup(JsonObject &object)
 {
-    RecordingGroup group{object.text(QStringLiteral("id")), object.text(QStringLiteral("name")),
+    RecordingGroup group{object.text(IdKey), object.text(NameKey),
                          object.wholeNumber(QStringLiteral("recordedDays"), 0, MaxDays),
                          object.wholeNumber(QStringLiteral("requiredDays"), 0, MaxDays)};
     object.expectNoMore();
@@ -93,7 +121,7 @@ void Reader::storage(JsonObject &object, Station &station)
 
 Camera Reader::camera(JsonObject &object, const QString &stationId)
 {
-    Camera camera{nodeId(object, stationId), object.text(QStringLiteral("name")),
+    Camera camera{nodeId(object, stationId), object.text(NameKey),
                   object.flag(QStringLiteral("connected"), true)};
     if (object.has(QStringLiteral("address")))
         camera.address = readCameraAddress(object, QStringLiteral("address"));
@@ -105,7 +133,7 @@ Station Reader::station(JsonObject &object, const QString &parentId)
 {
     Station station;
     station.id = nodeId(object, parentId);
-    station.name = object.text(QStringLiteral("name"));
+    station.name = object.text(NameKey);
     station.connected = object.flag(QStringLiteral("connected"), true);
     station.supportsMonitoring = object.flag(QStringLiteral("supportsMonitoring"), true);
     if (object.has(QStringLiteral("resources"))) {
@@ -116,9 +144,9 @@ Station Reader::station(JsonObject &object, const QString &parentId)
     if (object.has(QStringLiteral("exporter")))
         station.exporter = readExporter(object, QStringLiteral("exporter"));
     storage(object, station);
-    for (JsonObject &entry : object.objects(QStringLiteral("cameras")))
+    for (JsonObject &entry : oneByOne(object.objects(QStringLiteral("cameras"))))
         station.cameras.push_back(camera(entry, station.id));
-    for (JsonObject &entry : object.objects(QStringLiteral("stations")))
+    for (JsonObject &entry : oneByOne(object.objects(QStringLiteral("stations"))))
         station.stations.push_back(this->station(entry, station.id));
     object.expectNoMore();
     return station;
@@ -144,9 +172,7 @@ template <typename Item> QJsonArray toArray(const std::vector<Item> &items)
 
 QJsonObject node(const QString &id, const QString &name, bool connected)
 {
-    return {{QStringLiteral("id"), id},
-            {QStringLiteral("name"), name},
-            {QStringLiteral("connected"), connected}};
+    return {{IdKey, id}, {NameKey, name}, {QStringLiteral("connected"), connected}};
 }
 
 QJsonObject toJson(const Volume &volume)
@@ -156,8 +182,8 @@ QJsonObject toJson(const Volume &volume)
 
 QJsonObject toJson(const RecordingGroup &group)
 {
-    return {{QStringLiteral("id"), group.id},
-            {QStringLiteral("name"), group.name},
+    return {{IdKey, group.id},
+            {NameKey, group.name},
             {QStringLiteral("recordedDays"), group.recordedDays},
             {QStringLiteral("requiredDays"), group.requiredDays}};
 }
@@ -182,9 +208,9 @@ QJsonObject toJson(const Station &station)
 Site readSite(JsonObject &object)
 {
     Site site;
-    site.name = object.text(QStringLiteral("name"));
+    site.name = object.text(NameKey);
     Reader reader;
-    for (JsonObject &entry : object.requiredObjects(QStringLiteral("stations")))
+    for (JsonObject &entry : Reader::oneByOne(object.requiredObjects(QStringLiteral("stations"))))
         site.stations.push_back(reader.station(entry, {}));
     object.expectNoMore();
     return site;
@@ -192,8 +218,7 @@ Site readSite(JsonObject &object)
 
 QJsonObject toJson(const Site &site)
 {
-    return {{QStringLiteral("name"), site.name},
-            {QStringLiteral("stations"), toArray(site.stations)}};
+    return {{NameKey, site.name}, {QStringLiteral("stations"), toArray(site.stations)}};
 }
 
 void readStorage(JsonObject &object, Station &station)

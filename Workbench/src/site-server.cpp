@@ -1,4 +1,6 @@
 #include "AccessToken.h"
+#include "Catalogues.h"
+#include "ExitCode.h"
 #include "InputError.h"
 #include "ScaledClock.h"
 #include "ScenarioDriver.h"
@@ -13,12 +15,9 @@
 
 #include <QTextStream>
 
-#include <cstdlib>
 #include <memory>
 
 namespace {
-
-constexpr int ExitBadInput = 2;
 
 void complain(const QString &message)
 {
@@ -73,7 +72,7 @@ int serve(const ServerOptions &options)
                      .arg(options.address.toString())
                      .arg(options.port)
                      .arg(gate.errorText()));
-        return EXIT_FAILURE;
+        return ExitCode::Failure;
     }
     QTextStream(stdout)
         << QCoreApplication::translate("site-server", "listening on %1").arg(gate.url().toString())
@@ -92,15 +91,16 @@ int main(int argc, char **argv)
     QCoreApplication::setApplicationVersion(QStringLiteral(WORKBENCH_VERSION));
     try {
         const ServerOptions options = parseServerOptions(QCoreApplication::arguments());
+        const Catalogues catalogues(options.language);
         if (options.wantsHelp)
             QTextStream(stdout) << serverOptionsHelp();
         else if (options.wantsVersion)
             QTextStream(stdout) << "site-server " WORKBENCH_VERSION "\n";
         else
             return serve(options);
-        return EXIT_SUCCESS;
+        return ExitCode::Success;
     } catch (const InputError &error) {
         complain(error.message());
-        return ExitBadInput;
+        return ExitCode::BadInput;
     }
 }

@@ -10,8 +10,8 @@ class FullDisk
 {
 public:
     explicit FullDisk(rlim_t bytes)
+        : m_handler(std::signal(SIGXFSZ, SIG_IGN))
     {
-        m_handler = std::signal(SIGXFSZ, SIG_IGN);
         getrlimit(RLIMIT_FSIZE, &m_before);
         const rlimit limit{bytes, m_before.rlim_max};
         setrlimit(RLIMIT_FSIZE, &limit);
@@ -28,7 +28,7 @@ public:
 
 private:
     rlimit m_before{};
-    void (*m_handler)(int) = nullptr;
+    void (*m_handler)(int);
 };
 
 #endif

@@ -20,7 +20,6 @@ private Q_SLOTS:
     void installsEachCatalogueOnce();
     void unknownLanguagesAreRefused_data();
     void unknownLanguagesAreRefused();
-    void germanCatalogueIsComplete();
     void germanTextsHaveThePlacesOfTheirSources();
 };
 
@@ -88,15 +87,6 @@ void tst_Catalogues::unknownLanguagesAreRefused()
     QFETCH(QString, language);
     QCOMPARE(inputFailure([&language] { const Catalogues catalogues(language); }),
              QStringLiteral("--language: expected en or de, found \"%1\".").arg(language));
-}
-
-void tst_Catalogues::germanCatalogueIsComplete()
-{
-    QFile file(QFINDTESTDATA("../i18n/Workbench_de.ts"));
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    const QByteArray text = file.readAll();
-    QVERIFY(text.contains("<translation>"));
-    QVERIFY(!text.contains("type=\"unfinished\""));
 }
 
 void tst_Catalogues::germanTextsHaveThePlacesOfTheirSources()

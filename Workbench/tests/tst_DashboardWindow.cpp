@@ -1,6 +1,6 @@
 #include "DashboardWindow.h"
 
-#include "HostError.h"
+#include "InputFailure.h"
 #include "TextFile.h"
 
 #include <QDateTime>
@@ -37,7 +37,9 @@ private Q_SLOTS:
     void coloursAreSetAndHeardOf();
     void savesWhatIsShown();
     void tellsWhenThePictureCannotBeWritten();
-    void refusesADashboardThatCannotBeLoaded();
+    void pagesAreFiles();
+    void pageThatCannotBeCompiledIsRefusedAtItsPlace();
+    void pageThatCannotBeCreatedIsRefused();
 };
 
 void tst_DashboardWindow::handsOverPluginAndSite()
@@ -157,18 +159,35 @@ void tst_DashboardWindow::tellsWhenThePictureCannotBeWritten()
     QVERIFY(!window.saveImage(file.path() + QStringLiteral("/picture.png")));
 }
 
-void tst_DashboardWindow::refusesADashboardThatCannotBeLoaded()
+void tst_DashboardWindow::pagesAreFiles()
+{
+    QCOMPARE(DashboardWindow::pageUrl({}), DashboardWindow::dashboardUrl());
+    const QString file = testFile(QStringLiteral("Dashboard.qml")).toLocalFile();
+    QCOMPARE(DashboardWindow::pageUrl(QDir::current().relativeFilePath(file)),
+             testFile(QStringLiteral("Dashboard.qml")));
+}
+
+void tst_DashboardWindow::pageThatCannotBeCompiledIsRefusedAtItsPlace()
 {
     QQmlEngine engine;
+    const QUrl page = testFile(QStringLiteral("Broken.qml"));
+    QCOMPARE(inputFailure(page.toLocalFile(),
+                          [&engine, &page] { DashboardWindow::expectLoadable(engine, page); }),
+             QStringLiteral("FILE: line 1, column 31: Expected token `:'"));
+    DashboardWindow::expectLoadable(engine, testFile(QStringLiteral("Dashboard.qml")));
+}
+
+void tst_DashboardWindow::pageThatCannotBeCreatedIsRefused()
+{
+    const TextFile page("import QtQml\nQtObject { property var plugin; property string siteName }",
+                        QStringLiteral("Page.qml"));
+    QQmlEngine engine;
     QObject plugin;
-    QString message;
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("Broken.qml")));
-    try {
-        const DashboardWindow window(engine, plugin, {}, testFile(QStringLiteral("Broken.qml")));
-    } catch (const HostError &error) {
-        message = error.message();
-    }
-    QVERIFY2(message.contains(QStringLiteral("Broken.qml:1")), qPrintable(message));
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("root object")));
+    const QString message = inputFailure(page.path(), [&engine, &plugin, &page] {
+        const DashboardWindow window(engine, plugin, {}, DashboardWindow::pageUrl(page.path()));
+    });
+    QVERIFY2(message.startsWith(QStringLiteral("FILE: ")), qPrintable(message));
 }
 
 QTEST_MAIN(tst_DashboardWindow)

@@ -1,3 +1,4 @@
+#include "FakePeer.h"
 #include "TextFile.h"
 
 #include <QJsonArray>
@@ -24,7 +25,9 @@ void start(QProcess &program, const QStringList &arguments)
 Outcome outcomeOf(QProcess &program)
 {
     Outcome outcome;
-    if (!program.waitForFinished(60'000) || program.exitStatus() != QProcess::NormalExit)
+    const bool hasEnded =
+        QTest::qWaitFor([&program] { return program.state() == QProcess::NotRunning; }, 60'000);
+    if (!hasEnded || program.exitStatus() != QProcess::NormalExit)
         return outcome;
     outcome.exitCode = program.exitCode();
     outcome.lines =
@@ -94,6 +97,7 @@ private Q_SLOTS:
     void walkIsReplayedWhereItWas();
     void differentListIsTold();
     void cutJournalReplaysItsPrefix();
+    void watchedNodesAreNotAskedAgain();
     void journalIsNotOverwritten();
     void wrongJournalsAreRefused_data();
     void wrongJournalsAreRefused();
@@ -192,6 +196,44 @@ void tst_JournalReplay::cutJournalReplaysItsPrefix()
                  QStringLiteral("The journal was cut off; its %1 whole entries were replayed.")
                      .arg(text.count('\n') - 1));
     }
+}
+
+// What the watch found is in the journal; a replay may happen where nobody can be asked.
+void tst_JournalReplay::watchedNodesAreNotAskedAgain()
+{
+    FakePeer exporter;
+    exporter.setAnswer(FakePeer::http("node_cpu_seconds_total{cpu=\"0\",mode=\"idle\"} 1\n"
+                                      "node_memory_MemTotal_bytes 10\n"
+                                      "node_memory_MemAvailable_bytes 5\n"));
+    FakePeer camera;
+    camera.setAnswer("RTSP/1.0 200 OK\r\nCSeq: 1\r\n\r\n");
+    const TextFile site(QStringLiteral(R"({"name": "S", "stations": [
+        {"id": "st", "name": "Station", "connected": false,
+         "exporter": {"url": "http://127.0.0.1:%1"},
+         "cameras": [{"id": "door", "name": "Door", "connected": false,
+                      "address": "rtsp://127.0.0.1:%2/door"}]}]})")
+                            .arg(exporter.port())
+                            .arg(camera.port())
+                            .toUtf8());
+    const TextFile scenario(R"({"events": [], "endAt": 1.5})");
+    const QString fileName = m_directory.filePath(QStringLiteral("watched.journal"));
+    QCOMPARE(
+        run({QStringLiteral("--site"), site.path(), QStringLiteral("--scenario"), scenario.path(),
+             QStringLiteral("--ignore-errors"), QStringLiteral("--record"), fileName})
+            .exitCode,
+        0);
+    const QByteArray journal = contentOf(fileName);
+    QVERIFY(journal.contains(R"("arguments":[1,"st",true])"));
+    QVERIFY(journal.contains(R"("arguments":[0,"st/door",true])"));
+    QVERIFY(!exporter.requests().isEmpty());
+    QVERIFY(!camera.requests().isEmpty());
+
+    const qsizetype scrapes = exporter.requests().size();
+    const qsizetype probes = camera.requests().size();
+    const Outcome outcome = replay(fileName, QStringLiteral("1"));
+    QCOMPARE(outcome.exitCode, 0);
+    QCOMPARE(exporter.requests().size(), scrapes);
+    QCOMPARE(camera.requests().size(), probes);
 }
 
 void tst_JournalReplay::journalIsNotOverwritten()

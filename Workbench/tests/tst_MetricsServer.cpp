@@ -1,6 +1,6 @@
 #include "MetricsServer.h"
 
-#include "InputFailure.h"
+#include "HostFailure.h"
 #include "ReadMetrics.h"
 #include "WorkbenchFixture.h"
 
@@ -137,7 +137,7 @@ void tst_MetricsServer::portInUseIsRefused()
 {
     const quint16 port = m_server->port();
     QCOMPARE(
-        inputFailure([&] { MetricsServer(m_fixture->workbench, port); }),
+        hostFailure([&] { MetricsServer(m_fixture->workbench, port); }),
         QStringLiteral("--metrics: port %1 cannot be used: The bound address is already in use")
             .arg(port));
     QVERIFY(ask(Good).startsWith("HTTP/1.1 200 OK\r\n"));

@@ -1,6 +1,6 @@
 #include "OperationalLogStore.h"
 
-#include "HostError.h"
+#include "InputFailure.h"
 #include "TextFile.h"
 
 #include <QSqlDatabase>
@@ -111,12 +111,7 @@ void tst_OperationalLogStore::unusableFilesAreNamed()
 {
     const TextFile noDatabase(QByteArray(4096, 'x'), QStringLiteral("log.sqlite"));
     for (const QString &path : {noDatabase.path(), noDatabase.path() + QStringLiteral("/log")}) {
-        QString message;
-        try {
-            const OperationalLogStore log(path);
-        } catch (const HostError &error) {
-            message = error.message();
-        }
+        const QString message = inputFailure([&path] { const OperationalLogStore log(path); });
         QVERIFY2(message.startsWith(path + QStringLiteral(": cannot be used")),
                  qPrintable(message));
     }

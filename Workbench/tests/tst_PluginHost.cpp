@@ -1,6 +1,6 @@
 #include "PluginHost.h"
 
-#include "HostError.h"
+#include "HostFailure.h"
 #include "PluginBase.h"
 #include "SiteServer.h"
 #include "TextFile.h"
@@ -20,12 +20,7 @@ QString pluginFile(const char *name)
 
 QString failureToLoad(const QString &file)
 {
-    try {
-        const PluginHost host(file);
-    } catch (const HostError &error) {
-        return error.message();
-    }
-    return {};
+    return hostFailure([&file] { const PluginHost host(file); });
 }
 
 QStringList takeLog(const PluginHost &host)
@@ -164,12 +159,8 @@ void tst_PluginHost::failureToInitialiseIsReported()
     const std::unique_ptr<Framework> framework = echo();
     PluginHost host(pluginFile("FakeMonitorPlugin"));
     qputenv("FAKE_MONITOR_FAILS", "1");
-    QString message;
-    try {
-        host.initialise(nullptr, *framework);
-    } catch (const HostError &error) {
-        message = error.message();
-    }
+    const QString message =
+        hostFailure([&host, &framework] { host.initialise(nullptr, *framework); });
     qunsetenv("FAKE_MONITOR_FAILS");
     QVERIFY2(message.endsWith(QStringLiteral(": the plug-in failed to initialise")),
              qPrintable(message));

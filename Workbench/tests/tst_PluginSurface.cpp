@@ -1,7 +1,7 @@
 #include "PluginSurface.h"
 
 #include "FakeMonitor.h"
-#include "HostError.h"
+#include "HostFailure.h"
 #include "SignalLog.h"
 
 #include <QRegularExpression>
@@ -64,13 +64,8 @@ void tst_PluginSurface::refusesObjectsWithoutTheSurface()
 {
     QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("No such signal")));
     QObject plain;
-    QString message;
-    try {
-        const PluginSurface surface(plain);
-    } catch (const HostError &error) {
-        message = error.message();
-    }
-    QCOMPARE(message, QStringLiteral("The plug-in has no signal clientResourceChanged(int, int)."));
+    QCOMPARE(hostFailure([&plain] { const PluginSurface surface(plain); }),
+             QStringLiteral("The plug-in has no signal clientResourceChanged(int, int)."));
 }
 
 QTEST_GUILESS_MAIN(tst_PluginSurface)

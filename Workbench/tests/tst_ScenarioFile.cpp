@@ -7,6 +7,7 @@
 #include "TestSite.h"
 #include "TextFile.h"
 
+#include <QSet>
 #include <QTest>
 
 using namespace ScenarioAction;
@@ -65,6 +66,7 @@ private Q_SLOTS:
     void wrongTimesAreRefused();
     void bundledScenariosFitTheBundledSite_data();
     void bundledScenariosFitTheBundledSite();
+    void allOfTheLargeSiteFlapsForAMinute();
 };
 
 void tst_ScenarioFile::readsTimes()
@@ -392,6 +394,25 @@ void tst_ScenarioFile::bundledScenariosFitTheBundledSite()
     } catch (const InputError &error) {
         QFAIL(qPrintable(error.message()));
     }
+}
+
+void tst_ScenarioFile::allOfTheLargeSiteFlapsForAMinute()
+{
+    const Site site = readSiteFile(QStringLiteral(":/workbench/sites/large.json"));
+    QCOMPARE(site.stationCount(), 100);
+    QCOMPARE(site.cameraCount(), 10'000);
+    const Scenario scenario =
+        readScenarioFile(QStringLiteral(":/workbench/scenarios/flap.json"), site);
+    const std::size_t flapping = 60 * 1000;
+    QCOMPARE(scenario.events.size(), flapping + 100);
+    QSet<QString> down;
+    for (const ScenarioEvent &event : scenario.events) {
+        const auto change = std::get<ScenarioAction::SetCameraConnected>(event.action);
+        QCOMPARE(down.contains(change.cameraId), change.connected);
+        if (!down.remove(change.cameraId))
+            down.insert(change.cameraId);
+    }
+    QCOMPARE(down.size(), 100);
 }
 
 QTEST_GUILESS_MAIN(tst_ScenarioFile)

@@ -26,6 +26,7 @@ private Q_SLOTS:
     void wrongOptionsAreRefused_data();
     void wrongOptionsAreRefused();
     void helpNamesEveryOption();
+    void helpFitsATerminal();
 };
 
 void tst_ServerOptions::everythingHasADefault()
@@ -35,6 +36,7 @@ void tst_ServerOptions::everythingHasADefault()
     QCOMPARE(options.scenarioFile, QString());
     QCOMPARE(options.storeFile, QString());
     QCOMPARE(options.tokenFile, QString());
+    QCOMPARE(options.language, QStringLiteral("en"));
     QCOMPARE(options.address, QHostAddress(QHostAddress::LocalHost));
     QCOMPARE(options.port, quint16(8765));
     QVERIFY(!options.wantsHelp);
@@ -45,11 +47,12 @@ void tst_ServerOptions::readsEveryOption()
 {
     const ServerOptions options =
         parse(QStringLiteral("--site s.json --scenario everything --store x.sqlite --token-file t "
-                             "--listen 0.0.0.0:99 --help --version"));
+                             "--listen 0.0.0.0:99 --language de --help --version"));
     QCOMPARE(options.siteFile, QStringLiteral("s.json"));
     QCOMPARE(options.scenarioFile, QStringLiteral(":/workbench/scenarios/everything.json"));
     QCOMPARE(options.storeFile, QStringLiteral("x.sqlite"));
     QCOMPARE(options.tokenFile, QStringLiteral("t"));
+    QCOMPARE(options.language, QStringLiteral("de"));
     QCOMPARE(options.address, QHostAddress(QHostAddress::AnyIPv4));
     QCOMPARE(options.port, quint16(99));
     QVERIFY(options.wantsHelp);
@@ -111,10 +114,17 @@ void tst_ServerOptions::wrongOptionsAreRefused()
 void tst_ServerOptions::helpNamesEveryOption()
 {
     const QString help = serverOptionsHelp();
-    for (const char *const option :
-         {"--site", "--scenario", "--store", "--listen", "--token-file", "--help", "--version"})
+    for (const char *const option : {"--site", "--scenario", "--store", "--listen", "--token-file",
+                                     "--language", "--help", "--version"})
         QVERIFY2(help.contains(QString::fromLatin1(option)), option);
     QVERIFY(help.contains(QStringLiteral("Exit codes")));
+}
+
+void tst_ServerOptions::helpFitsATerminal()
+{
+    const QStringList lines = serverOptionsHelp().split(u'\n');
+    for (const QString &line : lines)
+        QVERIFY2(line.size() < 80, qPrintable(line));
 }
 
 QTEST_GUILESS_MAIN(tst_ServerOptions)

@@ -16,6 +16,8 @@ private Q_SLOTS:
     void readsCameraAddresses();
     void leavesOutWhatIsOptional();
     void siteMayBeEmpty();
+    void entryWithACountStandsForMany();
+    void numbersAreThoseOfTheInnermostCount();
     void wrongFilesAreRefused_data();
     void wrongFilesAreRefused();
 };
@@ -121,6 +123,33 @@ void tst_SiteFile::siteMayBeEmpty()
     QCOMPARE(readSiteFile(file.path()).stationCount(), 0);
 }
 
+void tst_SiteFile::entryWithACountStandsForMany()
+{
+    const TextFile file(R"({"name": "S", "stations": [
+        {"id": "a-#", "name": "Hall # of #", "count": 3, "connected": false},
+        {"id": "b#", "name": "B#"}]})");
+    Site site = readSiteFile(file.path());
+    QCOMPARE(site.stationCount(), 4);
+    for (int number = 1; number <= 3; ++number) {
+        const Station *const station = site.findStation(QStringLiteral("a-%1").arg(number));
+        QVERIFY(station);
+        QCOMPARE(station->name, QStringLiteral("Hall %1 of %1").arg(number));
+        QCOMPARE(station->connected, false);
+    }
+    QCOMPARE(site.findStation(QStringLiteral("b#"))->name, QStringLiteral("B#"));
+}
+
+void tst_SiteFile::numbersAreThoseOfTheInnermostCount()
+{
+    const TextFile file(R"({"name": "S", "stations": [{"id": "a#", "name": "A #", "count": 2,
+        "stations": [{"id": "b#", "name": "B #"}],
+        "cameras": [{"id": "c#", "name": "C #", "count": 3}]}]})");
+    Site site = readSiteFile(file.path());
+    QCOMPARE(site.cameraCount(), 6);
+    QCOMPARE(site.findCamera(QStringLiteral("a2/c3"))->name, QStringLiteral("C 3"));
+    QCOMPARE(site.findStation(QStringLiteral("a2/b#"))->name, QStringLiteral("B #"));
+}
+
 void tst_SiteFile::wrongFilesAreRefused_data()
 {
     QTest::addColumn<QByteArray>("stations");
@@ -138,6 +167,17 @@ void tst_SiteFile::wrongFilesAreRefused_data()
         R"(stations[0].id: expected an id other than that of this machine, found "this-machine")");
     row("station twice", R"([{"id": "a", "name": "A"}, {"id": "a", "name": "B"}])",
         R"(stations[1].id: expected an id that is used once, found "a" as at stations[0].id)");
+    row("count without a place for the number", R"([{"id": "a", "name": "#", "count": 2}])",
+        R"(stations[0].id: expected an id with "#" for the number, found "a")");
+    row("count of none", R"([{"id": "a#", "name": "A", "count": 0}])",
+        "stations[0].count: expected a whole number from 1 to 10000, found the number 0");
+    row("one of many twice",
+        R"([{"id": "a2", "name": "A"}, {"id": "a#", "name": "A", "count": 3}])",
+        R"(stations[1].id: expected an id that is used once, found "a2" as at stations[0].id)");
+    row("too large a site",
+        R"([{"id": "a#", "name": "A", "count": 10000,
+             "cameras": [{"id": "c#", "name": "C", "count": 10000}]}])",
+        "stations[0].cameras[0].id: expected 100000 stations and cameras at most, found one more");
     row("camera twice",
         R"([{"id": "a", "name": "A", "cameras": [{"id": "c", "name": "C"},
                                                  {"id": "c", "name": "D"}]}])",
@@ -167,7 +207,8 @@ void tst_SiteFile::wrongFilesAreRefused_data()
         R"([{"id": "a", "name": "A", "resources": {"cpu": 101, "memory": 2}}])",
         "stations[0].resources.cpu: expected a whole number from 0 to 100, found the number 101");
     row("unknown key of a station", R"([{"id": "a", "name": "A", "supportMonitoring": true}])",
-        "stations[0].supportMonitoring: expected one of the keys cameras, connected, exporter, id, "
+        "stations[0].supportMonitoring: expected one of the keys cameras, connected, count, "
+        "exporter, id, "
         "name, recordingGroups, resources, stations, supportsMonitoring, volumes, "
         "found an unknown key");
     const auto exporter = [row](const char *name, const char *value, const char *message) {
@@ -219,7 +260,7 @@ void tst_SiteFile::wrongFilesAreRefused_data()
                 .constData());
     row("unknown key of a camera",
         R"([{"id": "a", "name": "A", "cameras": [{"id": "c", "name": "C", "url": "x"}]}])",
-        "stations[0].cameras[0].url: expected one of the keys address, connected, id, name, "
+        "stations[0].cameras[0].url: expected one of the keys address, connected, count, id, name, "
         "found an unknown key");
     row("unknown key of a volume",
         R"([{"id": "a", "name": "A", "volumes": [{"id": "c", "name": "C", "size": 3}]}])",

@@ -79,6 +79,7 @@ private Q_SLOTS:
     void wrongInputIsRefused_data();
     void wrongInputIsRefused();
     void addressThatIsTakenIsNamed();
+    void speaksGerman();
 
     void snoozeOfOneIsSeenByTheOtherAndHoldsAfterAKill();
     void stoppedServerIsNoticed();
@@ -140,6 +141,8 @@ void tst_SiteServerProgram::wrongInputIsRefused_data()
     QTest::newRow("token") << words("--token-file FILE") << QByteArray("short")
                            << QStringLiteral(
                                   "FILE: expected a token of 16 to 1024 characters, found 5");
+    QTest::newRow("language") << words("--language xx") << QByteArray()
+                              << QStringLiteral("--language: expected en or de, found \"xx\".");
     QTest::newRow("damaged store") << words("--store FILE") << QByteArray(4096, 'x')
                                    << store + QStringLiteral("file is not a database");
     QTest::newRow("store in no folder")
@@ -171,10 +174,21 @@ void tst_SiteServerProgram::addressThatIsTakenIsNamed()
     Program server(
         QStringLiteral(SITE_SERVER_PROGRAM),
         {QStringLiteral("--listen"), QStringLiteral("127.0.0.1:%1").arg(other.serverPort())});
-    QCOMPARE(server.waitForEnd(), 1);
+    QCOMPARE(server.waitForEnd(), 3);
     QCOMPARE(server.output(), QStringLiteral("site-server: --listen: 127.0.0.1, port %1: The bound "
                                              "address is already in use\n")
                                   .arg(other.serverPort()));
+}
+
+void tst_SiteServerProgram::speaksGerman()
+{
+    Program help(QStringLiteral(SITE_SERVER_PROGRAM), words("--language de --help"));
+    QCOMPARE(help.waitForEnd(), 0);
+    QVERIFY2(help.output().contains(QStringLiteral("Rückgabewerte:")), qPrintable(help.output()));
+    Program server(QStringLiteral(SITE_SERVER_PROGRAM),
+                   words("--language de --listen 127.0.0.1:0"));
+    QVERIFY2(server.waitFor(QStringLiteral("wartet auf Verbindungen an ws://127.0.0.1:")),
+             qPrintable(server.output()));
 }
 
 void tst_SiteServerProgram::snoozeOfOneIsSeenByTheOtherAndHoldsAfterAKill()

@@ -79,6 +79,7 @@ private Q_SLOTS:
     void everythingScenarioShowsEveryKindOfHappening();
     void defaultScenarioLeavesAPictureAndALog();
     void showsAPageOfOnesOwn();
+    void pageIsTriedWithoutAPicture();
     void walkAfterTheEndIsWaitedFor();
     void speaksGerman();
     void jsonIsAllThatIsPrinted();
@@ -203,6 +204,24 @@ void tst_WorkbenchProgram::showsAPageOfOnesOwn()
     QVERIFY(colourCount(image) > 5);
 }
 
+void tst_WorkbenchProgram::pageIsTriedWithoutAPicture()
+{
+    const TextFile page("import QtQuick\n"
+                        "Item {\n"
+                        "    property QtObject plugin\n"
+                        "    property string siteName\n"
+                        "    property bool serverConnected\n"
+                        "    onServerConnectedChanged: console.log(siteName, plugin !== null)\n"
+                        "}\n",
+                        QStringLiteral("Page.qml"));
+    const TextFile scenario(R"({"events": []})");
+    const Outcome outcome =
+        run({QStringLiteral("--headless"), QStringLiteral("--ignore-errors"),
+             QStringLiteral("--page"), page.path(), QStringLiteral("--scenario"), scenario.path()});
+    QCOMPARE(outcome.exitCode, 0);
+    QCOMPARE(outcome.errors, QStringLiteral("qml: Northgate Logistics Centre true\n"));
+}
+
 void tst_WorkbenchProgram::walkAfterTheEndIsWaitedFor()
 {
     const TextFile scenario(R"({"events": [{"at": 0, "do": "camStatusRetrieved"}]})");
@@ -289,7 +308,7 @@ void tst_WorkbenchProgram::portInUseIsRefused()
     QVERIFY(other.listen(QHostAddress::LocalHost));
     const QString port = QString::number(other.serverPort());
     const Outcome outcome = run(options("--headless --metrics") << port);
-    QCOMPARE(outcome.exitCode, 2);
+    QCOMPARE(outcome.exitCode, 3);
     QCOMPARE(outcome.errors, QStringLiteral("workbench: --metrics: port %1 cannot be used: The "
                                             "bound address is already in use\n")
                                  .arg(port));
@@ -334,6 +353,17 @@ void tst_WorkbenchProgram::wrongInputIsRefused_data()
         << QByteArray(R"({"events": [{"at": 0, "do": "cameraDown", "camera": "x"}]})")
         << QStringLiteral("FILE: events[0].camera: expected the id of a camera of the site, "
                           "found \"x\"");
+    QTest::newRow("page")
+        << options("--headless --screenshot FILE.png --record FILE.journal --page FILE")
+        << QByteArray("import QtQuick\nItem {\n    width: 3 +\n}\n")
+        << QStringLiteral("FILE: line 4, column 1: Expected token `numeric literal'");
+    QTest::newRow("page of an unknown type")
+        << options("--headless --page FILE")
+        << QByteArray("import QtQuick\nItem {\n    Gauge {}\n}\n")
+        << QStringLiteral("FILE: line 3, column 5: Gauge is not a type");
+    QTest::newRow("log that is none")
+        << options("--headless --log FILE") << QByteArray(4096, 'x')
+        << QStringLiteral("FILE: cannot be used for the operational log: file is not a database");
     QTest::newRow("malformed file")
         << options("--scenario FILE") << QByteArray("{\n\"events\" []}")
         << QStringLiteral("FILE: line 2: expected valid JSON, found: missing name "
@@ -352,6 +382,8 @@ void tst_WorkbenchProgram::wrongInputIsRefused()
     QCOMPARE(outcome.errors, QStringLiteral("workbench: ")
                                  + message.replace(QStringLiteral("FILE"), input.path()) + u'\n');
     QCOMPARE(outcome.lines, QStringList{QString()});
+    const QFileInfo inputFile(input.path());
+    QCOMPARE(inputFile.dir().entryList(QDir::Files), QStringList{inputFile.fileName()});
 }
 
 void tst_WorkbenchProgram::pluginThatCannotBeLoadedIsNamed()

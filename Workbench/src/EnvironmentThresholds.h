@@ -1,5 +1,5 @@
-#ifndef THRESHOLDS_H
-#define THRESHOLDS_H
+#ifndef ENVIRONMENTTHRESHOLDS_H
+#define ENVIRONMENTTHRESHOLDS_H
 
 #include <QJsonObject>
 

@@ -1,4 +1,4 @@
-#include "Thresholds.h"
+#include "EnvironmentThresholds.h"
 
 #include <array>
 

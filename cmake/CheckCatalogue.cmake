@@ -1,5 +1,6 @@
 # Fails unless a catalogue holds every text of the sources, each of them translated.
-# Needs LUPDATE, CATALOGUE, SOURCES (a list), COPY (a scratch file) and OPTIONS (a list).
+# Needs LUPDATE, CATALOGUE, SOURCES (a list), COPY (a scratch file), OPTIONS (a list) and TARGET, which
+# brings the catalogue up to date.
 file(READ "${CATALOGUE}" before)
 file(WRITE "${COPY}" "${before}")
 execute_process(
@@ -8,7 +9,7 @@ execute_process(
     COMMAND_ERROR_IS_FATAL ANY)
 file(READ "${COPY}" after)
 if(NOT before STREQUAL after)
-    message(FATAL_ERROR "${CATALOGUE} is not up to date; build the target Dashboard_lupdate")
+    message(FATAL_ERROR "${CATALOGUE} is not up to date; build the target ${TARGET}")
 endif()
 if(after MATCHES "type=\"(unfinished|vanished|obsolete)\"")
     message(FATAL_ERROR "${CATALOGUE} has texts without a translation")
