@@ -1,8 +1,8 @@
 #include "Invariants.h"
 
-#include "HostedPlugin.h"
 #include "SystemErrorModel.h"
 #include "SystemResourceModelControl.h"
+#include "TestedPlugin.h"
 
 #include <QSet>
 
@@ -56,9 +56,9 @@ void requireResources(const QAbstractItemModel &resources)
 
 } // namespace
 
-void requireConsistency(HostedPlugin &hosted)
+void requireConsistency(TestedPlugin &plugin)
 {
-    requireErrors(hosted.plugin);
-    requireView(hosted.plugin);
-    requireResources(*hosted.plugin.resourceModelControl->model());
+    requireErrors(plugin);
+    requireView(plugin);
+    requireResources(*plugin.resourceModelControl->model());
 }

@@ -1,7 +1,7 @@
 #ifndef INVARIANTS_H
 #define INVARIANTS_H
 
-class HostedPlugin;
+class TestedPlugin;
 
 /// Ends the process with a message when something that always holds does not. A fuzzer takes that
 /// for a fault.
@@ -10,6 +10,6 @@ void require(bool holds, const char *what);
 /// Requires what holds of a plug-in whose lists nobody else changes: no key is listed twice, every
 /// row is found by its key, the counts are those of the rows, a view shows them all, the resource
 /// rows begin with their three base rows and have full histories.
-void requireConsistency(HostedPlugin &hosted);
+void requireConsistency(TestedPlugin &plugin);
 
 #endif

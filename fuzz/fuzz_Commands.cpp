@@ -79,6 +79,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
             respond(hosted, input);
         }
     }
-    requireConsistency(hosted);
+    requireConsistency(hosted.plugin);
     return 0;
 }

@@ -106,6 +106,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
             sendEvent(hosted, input);
         }
     }
-    requireConsistency(hosted);
+    requireConsistency(hosted.plugin);
     return 0;
 }

@@ -101,9 +101,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
         }
     }
     hosted.plugin.initNodeStatusError();
-    requireConsistency(hosted);
+    requireConsistency(hosted.plugin);
     hosted.topologyModel.clear();
     hosted.plugin.initNodeStatusError();
-    requireConsistency(hosted);
+    requireConsistency(hosted.plugin);
     return 0;
 }

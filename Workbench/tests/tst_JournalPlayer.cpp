@@ -35,7 +35,8 @@ private Q_SLOTS:
     void inputsComeAtTheirTimes();
     void withoutAClockTheyComeInTurn();
     void contextsGoBackToTheirCommands();
-    void unknownCallIsRefusedAtOnce();
+    void callThatIsNoInputIsRefusedAtOnce_data();
+    void callThatIsNoInputIsRefusedAtOnce();
     void entryThatDoesNotFitEndsThePlay();
 
 private:
@@ -103,14 +104,25 @@ void tst_JournalPlayer::contextsGoBackToTheirCommands()
     QCOMPARE(framework.takeContext(command, QStringLiteral("a")), static_cast<void *>(nullptr));
 }
 
-void tst_JournalPlayer::unknownCallIsRefusedAtOnce()
+void tst_JournalPlayer::callThatIsNoInputIsRefusedAtOnce_data()
 {
+    QTest::addColumn<QString>("name");
+    QTest::newRow("unknown") << QStringLiteral("fly");
+    QTest::newRow("every object's own") << QStringLiteral("deleteLater");
+    QTest::newRow("that asks for an object") << QStringLiteral("getSystemErrorModel");
+    QTest::newRow("other number of arguments") << QStringLiteral("setSnooze");
+}
+
+void tst_JournalPlayer::callThatIsNoInputIsRefusedAtOnce()
+{
+    QFETCH(QString, name);
     FakeMonitor monitor(m_log);
-    const Journal journal =
-        journalOf({R"({"at": 0, "server": true})", R"({"at": 1, "call": "fly", "arguments": []})"});
+    const QByteArray call = R"({"at": 1, "call": ")" + name.toLatin1() + R"(", "arguments": []})";
+    const Journal journal = journalOf({R"({"at": 0, "server": true})", call});
     QCOMPARE(inputFailure([&] { JournalPlayer(monitor, nullptr, journal, nullptr); }),
-             QStringLiteral("FILE: line 3: expected a call that the plug-in has, found \"fly\" "
-                            "with 0 arguments"));
+             QStringLiteral("FILE: line 3: expected a call that the plug-in has, found \"%1\" "
+                            "with 0 arguments")
+                 .arg(name));
     QCOMPARE(m_log.take(), QStringList());
 }
 
