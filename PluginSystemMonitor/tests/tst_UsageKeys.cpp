@@ -113,8 +113,9 @@ void tst_UsageKeys::stationHoldsNoneOnceAllItsKeysAreGone()
 
 void tst_UsageKeys::answerFollowsEachChange()
 {
-    // One string asks each time, as the values of one report do.
-    const QString stationID = u"st1"_s.repeated(1);
+    // One string asks each time, as the values of one report do. A literal shares nothing.
+    QString stationID = u"st1"_s;
+    stationID.detach();
     UsageKeys keys;
     QVERIFY(!keys.mayHold(stationID));
     QVERIFY(!keys.mayHold(stationID));
