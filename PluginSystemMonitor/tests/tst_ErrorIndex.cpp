@@ -304,6 +304,8 @@ private Q_SLOTS:
     void keyStaysWithItsItem_data();
     void keyStaysWithItsItem();
     void rowChangedWhileItGoesIsForgotten();
+    void rowThatAnEarlierWatcherSortedIsFiledOnce();
+    void changesWithinARemovalWithinARemovalAreFollowed();
     void randomChangesAreFollowed();
 };
 
@@ -639,6 +641,34 @@ void tst_ErrorIndex::rowChangedWhileItGoesIsForgotten()
     connect(&errors.model, &QAbstractItemModel::rowsAboutToBeRemoved, &errors.model,
             [&errors](const QModelIndex &, int first) {
                 errors.model.item(first)->setData(u"st2"_s, SystemErrorModel::StationIDRole);
+            });
+    errors.model.removeRow(0);
+    errors.settle();
+    QCOMPARE(errors.differences().join(u' '), QString());
+}
+
+void tst_ErrorIndex::rowThatAnEarlierWatcherSortedIsFiledOnce()
+{
+    Errors errors;
+    errors.model.setSortRole(SerialRole);
+    connect(&errors.model, &QAbstractItemModel::rowsInserted, &errors.model,
+            [&errors] { errors.model.sort(0, Qt::DescendingOrder); });
+    errors.index.setModel(&errors.model); // hears of rows after the watcher from now on
+    fill(errors);
+    QCOMPARE(errors.differences().join(u' '), QString());
+}
+
+void tst_ErrorIndex::changesWithinARemovalWithinARemovalAreFollowed()
+{
+    Errors errors;
+    fill(errors);
+    errors.model.item(1)->appendRow(error(u"st1"_s));
+    connect(&errors.model, &QAbstractItemModel::rowsAboutToBeRemoved, &errors.model,
+            [&errors](const QModelIndex &parent) {
+                if (parent.isValid())
+                    Q_EMIT errors.model.layoutChanged();
+                else
+                    errors.model.item(1)->removeRow(0);
             });
     errors.model.removeRow(0);
     errors.settle();

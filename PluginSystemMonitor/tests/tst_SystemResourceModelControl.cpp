@@ -33,6 +33,7 @@ private Q_SLOTS:
     void furtherInterfaceNamesAreTexts();
     void entryThatIsNoMapIsAnInterfaceWithoutName();
     void withoutANetworkRowEveryInterfaceGetsANewRow();
+    void bareRowIsNoInterface();
     void layoutAloneMovesNoHistory();
     void layoutLeavesTheCallersListAlone();
 
@@ -274,6 +275,16 @@ void tst_SystemResourceModelControl::withoutANetworkRowEveryInterfaceGetsANewRow
     QCOMPARE(control.model()->rowCount(), 4);
     QCOMPARE(control.subtitle(2), u"\"en0\""_s);
     QCOMPARE(control.subtitle(3), u"\"en1\""_s);
+}
+
+void tst_SystemResourceModelControl::bareRowIsNoInterface()
+{
+    Control control;
+    control.updateNetworkModalData({usage(u"en0"_s)});
+    control.model()->insertRow(3);
+    control.updateUsage(0, 0, {usage(u"en1"_s, 30, 40), usage(u"en0"_s, 50, 60)});
+    QCOMPARE(control.newest(2, 1), u"[50.0]"_s);
+    QCOMPARE(control.bandwidth(2), u"60.0"_s);
 }
 
 void tst_SystemResourceModelControl::layoutAloneMovesNoHistory()

@@ -400,6 +400,9 @@ void tst_TopologyIndex::changeIsFollowed_data()
     });
     row("id given", [](auto &model) { site(model)->child(2)->setData(u"7"_s, Topology::IdRole); });
     row("data cleared", [](auto &model) { site(model)->clearData(); });
+    row("change announced without roles", [](auto &model) {
+        Q_EMIT model.dataChanged(site(model)->child(0)->index(), site(model)->child(1)->index());
+    });
     row("display name changed",
         [](auto &model) { site(model)->setData(u"new"_s, Topology::DisplayNameRole); });
     row("re-parented", [](auto &model) {

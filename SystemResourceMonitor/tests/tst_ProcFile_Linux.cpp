@@ -39,6 +39,8 @@ void tst_ProcFile_Linux::lineIsFoundByItsFirstWord_data()
     QTest::newRow("no final newline") << QByteArray("cpu 1") << true << QByteArrayList{"1"};
     QTest::newRow("several blanks")
         << QByteArray("cpu  1\t 2 ") << true << QByteArrayList{"1", "2"};
+    QTest::newRow("other control character")
+        << QByteArray("cpu 1\x01 2") << true << QByteArrayList{"1\x01", "2"};
     QTest::newRow("first of two") << QByteArray("cpu 1\ncpu 2\n") << true << QByteArrayList{"1"};
     QTest::newRow("many words") << "cpu" + QByteArray(" 7").repeated(100) << true
                                 << QByteArrayList(100, "7");
