@@ -113,8 +113,8 @@ QVariantMap FuzzInput::map(const QStringList &keys)
 
 QByteArray FuzzInput::rest()
 {
-    const QByteArray bytes(reinterpret_cast<const char *>(m_data + m_position),
-                           static_cast<qsizetype>(m_size - m_position));
+    QByteArray bytes(reinterpret_cast<const char *>(m_data + m_position),
+                     static_cast<qsizetype>(m_size - m_position));
     m_position = m_size;
     return bytes;
 }

@@ -137,7 +137,7 @@ std::optional<QStringList> play(const Journal &journal)
         QCoreApplication::sendPostedEvents();
     player->finish();
     requireConsistency(*plugin);
-    const QStringList errors = errorListText(player->errors());
+    QStringList errors = errorListText(player->errors());
     plugin.reset();
     return errors;
 }

@@ -35,7 +35,7 @@ QUrl Reader::exporterUrl(JsonObject &object)
 {
     const QString key = QStringLiteral("url");
     const QString text = object.text(key);
-    const QUrl url(text, QUrl::StrictMode);
+    QUrl url(text, QUrl::StrictMode);
     const bool isWeb =
         url.scheme() == QLatin1String("http") || url.scheme() == QLatin1String("https");
     if (!isWeb || !isUsable(url))
@@ -47,10 +47,10 @@ QUrl Reader::exporterUrl(JsonObject &object)
 QUrl Reader::cameraAddress(JsonObject &camera, const QString &key)
 {
     const QString text = camera.text(key);
-    const QUrl url(text, QUrl::StrictMode);
+    QUrl url(text, QUrl::StrictMode);
     if (url.scheme() == QLatin1String("rtsp") && isUsable(url))
         return url;
-    const QUrl peer(QStringLiteral("tcp://") + text, QUrl::StrictMode);
+    QUrl peer(QStringLiteral("tcp://") + text, QUrl::StrictMode);
     if (!isUsable(peer) || !isPlain(peer))
         camera.fail(key, tr("an address like rtsp://camera/path or camera:554 without a user"),
                     tr("\"%1\"").arg(text));

@@ -13,7 +13,7 @@ namespace ClientMessage {
 constexpr int ProtocolVersion = 1;
 
 /// A longer message is refused.
-constexpr quint64 MaxBytes = 1024 * 1024;
+constexpr quint64 MaxBytes = quint64{1024} * 1024;
 
 /// The first message of a client.
 struct Hello

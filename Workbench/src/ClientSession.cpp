@@ -10,7 +10,7 @@
 namespace {
 
 // What a client may leave untaken; the largest sites fit in several times.
-constexpr qint64 MaxUntakenBytes = 16 * 1024 * 1024;
+constexpr qint64 MaxUntakenBytes = qint64{16} * 1024 * 1024;
 
 // How long a refused client may take to read why.
 constexpr qint64 FarewellMs = 1000;

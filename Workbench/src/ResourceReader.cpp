@@ -10,10 +10,9 @@ constexpr double UsualBandwidth = 1000; // Mbit/s
 
 NetworkUsage readNetwork(JsonObject &object)
 {
-    const NetworkUsage usage{
-        object.text(QStringLiteral("interface")),
-        object.number(QStringLiteral("percentage"), 0, MaxPercentage),
-        object.number(QStringLiteral("bandwidth"), 0, MaxBandwidth, UsualBandwidth)};
+    NetworkUsage usage{object.text(QStringLiteral("interface")),
+                       object.number(QStringLiteral("percentage"), 0, MaxPercentage),
+                       object.number(QStringLiteral("bandwidth"), 0, MaxBandwidth, UsualBandwidth)};
     object.expectNoMore();
     return usage;
 }

@@ -133,7 +133,7 @@ qint64 Reader::milliseconds(JsonObject &object, const QString &key, double least
 QString Reader::cameraId(JsonObject &object) const
 {
     const QString key = QStringLiteral("camera");
-    const QString id = object.text(key);
+    QString id = object.text(key);
     if (!m_site.findCamera(id))
         failUnknown(object, key, tr("the id of a camera of the site"), id);
     return id;
@@ -142,7 +142,7 @@ QString Reader::cameraId(JsonObject &object) const
 QString Reader::stationId(JsonObject &object) const
 {
     const QString key = QStringLiteral("station");
-    const QString id = object.text(key);
+    QString id = object.text(key);
     if (!m_site.findStation(id))
         failUnknown(object, key, tr("the id of a station of the site"), id);
     return id;
@@ -236,7 +236,7 @@ AnyScenarioAction Reader::renameRecordingGroup(JsonObject &object)
 QString Reader::groupId(JsonObject &object, const QString &stationId)
 {
     const QString key = QStringLiteral("group");
-    const QString group = object.text(key);
+    QString group = object.text(key);
     if (!m_site.findStation(stationId)->findRecordingGroup(group))
         failUnknown(object, key, tr("the id of a recording group of station \"%1\"").arg(stationId),
                     group);

@@ -14,7 +14,7 @@
 namespace ServerMessage {
 
 /// A longer message is not for a client to take.
-constexpr quint64 MaxBytes = 64 * 1024 * 1024;
+constexpr quint64 MaxBytes = quint64{64} * 1024 * 1024;
 
 /// The answer to a hello: the site as it is. What follows tells of its changes.
 struct Welcome

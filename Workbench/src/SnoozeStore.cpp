@@ -41,7 +41,7 @@ public:
     QString value(const QString &statement)
     {
         run(statement);
-        const QString text = m_query.next() ? m_query.value(0).toString() : QString();
+        QString text = m_query.next() ? m_query.value(0).toString() : QString();
         m_query.finish();
         return text;
     }

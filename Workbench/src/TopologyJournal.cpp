@@ -56,7 +56,7 @@ QStandardItem *makeItem(const QJsonObject &node)
     auto item = std::make_unique<QStandardItem>();
     setRoles(*item, node.value(RolesKey).toObject());
     const QJsonArray children = node.value(ChildrenKey).toArray();
-    for (const QJsonValue &child : children)
+    for (const auto &child : children)
         item->appendRow(makeItem(child.toObject()));
     return item.release();
 }
@@ -65,7 +65,7 @@ QStandardItem *makeItem(const QJsonObject &node)
 QStandardItem *itemAt(const QStandardItemModel &model, const QJsonArray &path)
 {
     QStandardItem *item = model.invisibleRootItem();
-    for (const QJsonValue &row : path)
+    for (const auto &row : path)
         item = item ? item->child(row.toInt(-1)) : nullptr;
     return item;
 }
@@ -75,7 +75,7 @@ bool insertRows(QStandardItem &parent, int row, const QJsonArray &nodes)
     if (row < 0 || row > parent.rowCount())
         return false;
     int next = row;
-    for (const QJsonValue &node : nodes)
+    for (const auto &node : nodes)
         parent.insertRow(next++, makeItem(node.toObject()));
     return true;
 }

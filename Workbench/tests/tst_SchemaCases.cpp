@@ -28,7 +28,7 @@ void tst_SchemaCases::programAndSchemasJudgeAlike_data()
     QVERIFY(file.open(QIODevice::ReadOnly));
     const QJsonArray cases = QJsonDocument::fromJson(file.readAll()).array();
     QVERIFY(!cases.isEmpty());
-    for (const QJsonValue &value : cases) {
+    for (const auto &value : cases) {
         const QString kind = value[QStringLiteral("kind")].toString();
         QTest::addRow("%s: %s", qPrintable(kind),
                       qPrintable(value[QStringLiteral("name")].toString()))

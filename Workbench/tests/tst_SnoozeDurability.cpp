@@ -51,11 +51,10 @@ private:
             found.insert(words.at(i), words.at(i + 1).toLongLong());
         Ends after = m_ends;
         apply(m_open, after);
-        const QString difference =
-            isBetween(found, m_ends, after)
-                ? QString()
-                : QStringLiteral("found %1, confirmed %2, under way '%3'")
-                      .arg(printed(found), printed(m_ends), m_open.join(u' '));
+        QString difference = isBetween(found, m_ends, after)
+                                 ? QString()
+                                 : QStringLiteral("found %1, confirmed %2, under way '%3'")
+                                       .arg(printed(found), printed(m_ends), m_open.join(u' '));
         m_ends = found;
         m_open.clear();
         m_foundCount += static_cast<int>(found.size());

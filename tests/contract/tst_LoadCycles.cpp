@@ -32,8 +32,8 @@ constexpr int Lives = 1000;
 constexpr int FirstLives = 200;
 
 // Less than a string in every second life.
-constexpr qint64 MostHeapGrowth = 16 * 1024;
-constexpr qint64 MostResidentGrowth = 2 * 1024 * 1024;
+constexpr qint64 MostHeapGrowth = qint64{16} * 1024;
+constexpr qint64 MostResidentGrowth = qint64{2} * 1024 * 1024;
 
 /// Loads the plug-in, has it do something of everything, ends it and unloads the file.
 void live(int number)

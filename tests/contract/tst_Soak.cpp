@@ -26,8 +26,8 @@ constexpr int Tenths = 10;
 constexpr int EventsOfATenth = 100'000;
 constexpr int Stations = 20;
 constexpr int CamerasOfAStation = 20;
-constexpr qint64 MostHeapGrowth = 64 * 1024;
-constexpr qint64 MostResidentGrowth = 4 * 1024 * 1024;
+constexpr qint64 MostHeapGrowth = qint64{64} * 1024;
+constexpr qint64 MostResidentGrowth = qint64{4} * 1024 * 1024;
 
 QString stationID(int station)
 {

@@ -49,6 +49,7 @@ public:
         : m_log(log)
     { }
 
+    ~FakeHost() = default;
     FakeHost(const FakeHost &) = delete;
     FakeHost &operator=(const FakeHost &) = delete;
 
