@@ -42,6 +42,7 @@ Panel {
     }
     readonly property SnoozeRequests requests: SnoozeRequests {
         surface: pane.surface
+        serverConnected: pane.serverConnected
         onUpdated: pane.noticed(status, summary)
     }
 
