@@ -20,6 +20,9 @@ ListView {
 
     /// The row that the pointer rests on, or null.
     property ErrorRow hoveredRow: null
+    /// The row with texts that do not fit, to be told in full: the pointer's or else the keyboard's.
+    readonly property ErrorRow toldRow: [hoveredRow, activeFocus ? currentItem : null].find(
+                                            row => row && row.truncated && row.drawn) ?? null
 
     /// The user wants to see the station of an error.
     signal stationRequested(stationID: string)
@@ -73,9 +76,9 @@ ListView {
 
     // One hint for all rows; it tells what did not fit.
     Tip {
-        parent: table.hoveredRow ?? table
-        text: table.hoveredRow?.fullText ?? ""
-        visible: table.hoveredRow?.truncated ?? false
+        parent: table.toldRow ?? table
+        text: table.toldRow?.fullText ?? ""
+        visible: table.toldRow !== null
     }
 
     onActiveFocusChanged: {

@@ -45,6 +45,12 @@ Item {
     }
     readonly property string until: qsTr("until %1").arg(Format.recentTime(modelData.until, Clock.now))
 
+    /// Whether a text does not fit.
+    readonly property bool truncated: stateLines.truncated || deviceLines.truncated
+                                      || stationLines.truncated || timeLines.truncated
+    readonly property string fullText: [stateText + " · " + request, device, error, stationName,
+                                        remaining + " · " + until].join("\n")
+
     signal pressed
     signal doubleClicked
 
@@ -103,6 +109,7 @@ Item {
         property alias second: secondLine.text
         property alias firstColor: firstLine.color
         property int alignment: Text.AlignLeft
+        readonly property bool truncated: visible && (firstLine.truncated || secondLine.truncated)
 
         anchors.verticalCenter: parent.verticalCenter
         spacing: Theme.em(0.15)
@@ -146,6 +153,8 @@ Item {
     }
 
     Lines {
+        id: stationLines
+
         visible: !row.narrow
         x: deviceLines.x + deviceLines.width + Theme.pad
         width: timeLines.x - Theme.pad - x
@@ -160,6 +169,11 @@ Item {
         alignment: Text.AlignRight
         first: row.remaining
         second: row.until
+    }
+
+    Tip {
+        text: row.fullText
+        visible: row.truncated && row.drawn && (mouse.containsMouse || row.current)
     }
 
     RowRing {

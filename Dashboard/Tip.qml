@@ -6,12 +6,14 @@ ToolTip {
     id: tip
 
     delay: 600
+    width: Math.min(implicitWidth, Theme.em(48))
     padding: Theme.gap
     visible: false
 
     contentItem: Text {
         text: tip.text
         textFormat: Text.PlainText
+        wrapMode: Text.Wrap
         color: Theme.text
         font.pixelSize: Theme.smallFont
     }

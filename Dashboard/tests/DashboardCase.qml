@@ -84,6 +84,16 @@ TestCase {
         return texts(item).includes(text);
     }
 
+    /// The texts of the hints that are shown.
+    function tipTexts(): var {
+        let top = parent;
+        while (top.parent)
+            top = top.parent;
+        return itemsWhere(top, item => item.visible && item instanceof Text
+                                       && String(item.parent).startsWith("QQuickPopupItem")).map(
+                    text => text.text);
+    }
+
     /// Clicks the item with an accessible name, anywhere in the window.
     function click(name: string) {
         tryVerify(() => inWindow(name) !== null, 1000, name + " is not there");

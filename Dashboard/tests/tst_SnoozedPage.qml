@@ -11,6 +11,7 @@ Item {
     StationDirectory {
         id: stations
 
+        statesKnown: true
         stations: [{ "stationID": "st1", "name": "Lobby", "parentID": "", "connected": true }]
     }
 
@@ -125,6 +126,13 @@ Item {
             verify(inWindow("As last known: the server is away."));
             book.serverList = [];
             tryVerify(() => inWindow("No snooze is known") !== null);
+        }
+
+        function test_namesThatDoNotFitAreToldToTheKeyboard() {
+            const name = "A very long name of a door ".repeat(5);
+            prepare([Object.assign(snooze("st1/c1", 3, now + hour), { "name": name })]);
+            itemsWhere(page, item => item instanceof ThemedList)[0].forceActiveFocus();
+            tryVerify(() => tipTexts().some(text => text.includes(name)));
         }
 
         function test_narrowRowsKeepTheStation() {
