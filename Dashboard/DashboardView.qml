@@ -14,6 +14,9 @@ FocusScope {
     property bool serverConnected: false
     /// Since when serverConnected has its value: a Date, or undefined when nobody knows.
     property var connectionSince
+    /// Since when the states of all stations and cameras have been known: a Date, or undefined while
+    /// they are not. Before, nothing at the site is said to be well.
+    property var statesSince
     /// List of {stationID, name, parentID, connected}; parentID is empty for a top-level station.
     property var stations: []
 
@@ -40,8 +43,8 @@ FocusScope {
     /// The page shown: "overview", "snoozed" or "log".
     property string page: "overview"
 
-    readonly property var knownSince: connectionSince && !isNaN(connectionSince.getTime())
-                                      ? connectionSince : undefined
+    readonly property var knownSince: validDate(connectionSince)
+    readonly property var knownStatesSince: validDate(statesSince)
 
     // What it offers is known only at run time.
     readonly property var surface: plugin
@@ -53,6 +56,10 @@ FocusScope {
         { "key": "snoozed", "text": qsTr("Snoozed"), "glyph": "snoozed" },
         { "key": "log", "text": qsTr("Log"), "glyph": "log" }
     ]
+
+    function validDate(date: var): var {
+        return date && !isNaN(date.getTime()) ? date : undefined;
+    }
 
     /// Shows what a tab stands for: a page, or a pane of the overview.
     function show(key: string) {
@@ -118,6 +125,7 @@ FocusScope {
         id: directory
 
         stations: root.stations
+        statesKnown: root.knownStatesSince !== undefined
         errorCounts: root.surface?.stationErrorList ?? []
     }
 
@@ -181,6 +189,7 @@ FocusScope {
             directory: directory
             serverConnected: root.serverConnected
             connectionSince: root.knownSince
+            statesSince: root.knownStatesSince
             files: root.files
             onNoticed: (status, text) => notice.show(status, text)
             onSnoozeAsked: (nodes, seconds) => book.take(nodes, seconds)

@@ -9,6 +9,8 @@ Panel {
     required property StationDirectory directory
     property bool serverConnected: false
     property var connectionSince
+    /// See DashboardView.statesSince.
+    property var statesSince
     /// What writes files for the dashboard, or null; see DashboardView.files.
     property var files: null
 
@@ -215,8 +217,13 @@ Panel {
                 visible: pane.shown.count === 0
                 serverConnected: pane.serverConnected
                 connectionSince: pane.connectionSince
+                statesSince: pane.statesSince
                 hidden: pane.total.count - pane.shown.count
             }
         }
+    }
+
+    FocusRing {
+        visible: table.activeFocus && table.count === 0
     }
 }

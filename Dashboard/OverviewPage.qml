@@ -9,6 +9,7 @@ FocusScope {
     required property StationDirectory directory
     property bool serverConnected: false
     property var connectionSince
+    property var statesSince
     property var files: null
 
     /// The pane to show where there is no room for all: "errors", "stations" or "usage".
@@ -39,6 +40,7 @@ FocusScope {
 
     readonly property MonitoringSupport support: MonitoringSupport {
         surface: page.surface
+        directory: page.directory
         serverConnected: page.serverConnected
     }
 
@@ -118,6 +120,7 @@ FocusScope {
         directory: page.directory
         serverConnected: page.serverConnected
         connectionSince: page.connectionSince
+        statesSince: page.statesSince
         files: page.files
         onStationRequested: stationID => page.showStation(stationID)
         onNoticed: (status, text) => page.noticed(status, text)

@@ -32,6 +32,8 @@ struct Scene
     bool connected = true;
     /// Whether every station is connected.
     bool well = false;
+    /// Whether the host knows the states of the stations and cameras.
+    bool statesKnown = true;
     /// Whether the host offers the operational log and the server's snoozes.
     bool offers = true;
     /// What happens before the picture is taken.
@@ -60,6 +62,15 @@ void fillAndWarn(QQuickView &view, FakePlugin &plugin)
 {
     fill(view, plugin);
     Q_EMIT plugin.notifyServerReachingLimited(QStringLiteral("Recording server 2"), 93.4);
+}
+
+void fillAndWarnOfMany(QQuickView &view, FakePlugin &plugin)
+{
+    fill(view, plugin);
+    for (int i = 1; i <= 9; ++i)
+        Q_EMIT plugin.notifyServerReachingLimited(QStringLiteral("Recording server %1").arg(i),
+                                                  90.0 + i);
+    QTest::keyClick(&view, Qt::Key_Down);
 }
 
 void fillAndFilterAway(QQuickView &view, FakePlugin &plugin)
@@ -220,6 +231,17 @@ QList<Scene> scenes()
         {.name = QStringLiteral("well"),
          .well = true,
          .act = [](QQuickView &, FakePlugin &plugin) { SampleSite::fillClient(plugin); }},
+        {.name = QStringLiteral("states-unknown"), .well = true, .statesKnown = false},
+        {.name = QStringLiteral("states-unknown-german-light"),
+         .dark = false,
+         .language = QStringLiteral("de"),
+         .well = true,
+         .statesKnown = false},
+        {.name = QStringLiteral("many-warnings"), .act = fillAndWarnOfMany},
+        {.name = QStringLiteral("many-warnings-german-light"),
+         .dark = false,
+         .language = QStringLiteral("de"),
+         .act = fillAndWarnOfMany},
         {.name = QStringLiteral("filtered"), .act = fillAndFilterAway},
         {.name = QStringLiteral("menu"), .act = fillAndOpenMenu},
         {.name = QStringLiteral("moment"), .act = fillAndAskMoment},
@@ -309,6 +331,10 @@ bool draw(const Scene &scene, const QDir &folder)
         {QStringLiteral("stations"), SampleSite::stations(scene.well)},
         {QStringLiteral("files"), QVariant::fromValue<QObject *>(&files)},
     };
+    if (scene.statesKnown) {
+        properties.insert(QStringLiteral("statesSince"),
+                          QDateTime::fromMSecsSinceEpoch(SampleSite::now() - 5 * 60 * 1000));
+    }
     if (scene.offers) {
         properties.insert(QStringLiteral("operationalLog"), QVariant::fromValue<QObject *>(&log));
         properties.insert(QStringLiteral("snoozes"), QVariantList());

@@ -30,6 +30,11 @@ Item {
             dialog = null;
         }
 
+        function test_tellsWhatItIs() {
+            prepare(2024, 5, 14, 16, 0);
+            compare(inWindow("Snooze until").Accessible.role, Accessible.Dialog);
+        }
+
         function test_startsOnTheHour() {
             prepare(2024, 5, 14, 16, 0);
             compare(inWindow("Hour").activeFocus, true);

@@ -61,6 +61,11 @@ void DashboardWindow::setConnection(bool isConnected, const QDateTime &since)
     rootObject()->setProperty("serverConnected", isConnected);
 }
 
+void DashboardWindow::setStatesSince(const QDateTime &since)
+{
+    rootObject()->setProperty("statesSince", since.isValid() ? QVariant(since) : QVariant());
+}
+
 void DashboardWindow::setStations(const QVariantList &stations)
 {
     rootObject()->setProperty("stations", stations);

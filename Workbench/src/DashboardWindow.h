@@ -26,6 +26,10 @@ public:
     /// Tells the dashboard whether the server is connected, and since when that is so.
     void setConnection(bool isConnected, const QDateTime &since);
 
+    /// Tells the dashboard since when the states of all nodes have been known; a null date when
+    /// they are not.
+    void setStatesSince(const QDateTime &since);
+
     /// Tells the dashboard of the stations, as stationList() gives them.
     void setStations(const QVariantList &stations);
 

@@ -206,7 +206,9 @@ int play(const Options &options, Catalogues &catalogues)
     Preferences preferences(isHeadless ? QString() : Preferences::usualFile());
     DashboardWindow window(*engine, workbench.surface().plugin(),
                            local ? site.name : options.serverUrl.toString(), pageUrl(options));
-    const DashboardFeed feed(workbench.link(), window);
+    DashboardFeed feed(workbench.link(), window);
+    QObject::connect(&workbench.topology(), &TopologyPlugin::camStatusRetrievedChanged, &feed,
+                     &DashboardFeed::takeStates);
     window.setFiles(files);
     window.setOperationalLog(logReader);
     window.setDark(preferences.isDark());

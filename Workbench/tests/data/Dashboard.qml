@@ -7,6 +7,7 @@ Item {
     property string siteName
     property bool serverConnected: false
     property var connectionSince
+    property var statesSince
     property var stations: []
     property var snoozes
     property bool dark: true
