@@ -17,6 +17,10 @@ FocusScope {
     /// Since when the states of all stations and cameras have been known: a Date, or undefined while
     /// they are not. Before, nothing at the site is said to be well.
     property var statesSince
+    /// The server's time is that of this machine, in milliseconds since the epoch, times the rate plus
+    /// the offset.
+    property real serverRate: 1
+    property real serverOffset: 0
     /// List of {stationID, name, parentID, connected}; parentID is empty for a top-level station.
     property var stations: []
 
@@ -72,6 +76,8 @@ FocusScope {
     anchors.fill: parent
     focus: true
     onDarkChanged: Theme.dark = dark
+    onServerRateChanged: Clock.serverRate = serverRate
+    onServerOffsetChanged: Clock.serverOffset = serverOffset
     Component.onCompleted: Theme.dark = dark
 
     Connections {

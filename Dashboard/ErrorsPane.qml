@@ -57,7 +57,8 @@ Panel {
     }
 
     function snoozeFor(seconds: int) {
-        snoozeUntil(Clock.now + seconds * 1000);
+        Clock.refresh();
+        snoozeUntil(Clock.serverNow + seconds * 1000);
     }
 
     function snoozeUntil(milliseconds: real) {
@@ -85,7 +86,7 @@ Panel {
 
     function askSnoozeMoment() {
         const hour = 3600 * 1000;
-        snoozeDialog.ask(Math.ceil(Clock.now / hour) * hour + hour);
+        snoozeDialog.ask(Math.ceil(Clock.serverNow / hour) * hour + hour);
     }
 
     /// One line for an error, its fields parted by tabs.
@@ -165,6 +166,7 @@ Panel {
             shown: pane.shown.count
             total: pane.total.count
             serverConnected: pane.serverConnected
+            statesKnown: pane.directory.statesKnown
             canExport: pane.files !== null
             onSnoozeChosen: seconds => pane.snoozeFor(seconds)
             onSnoozeMomentWanted: pane.askSnoozeMoment()

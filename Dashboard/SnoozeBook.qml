@@ -4,7 +4,7 @@ import QtQuick
 ///
 /// The plug-in tells neither. The book puts it together from what is asked here, from errors that
 /// leave the list and come back, and from the server's own list where the host knows it. Without
-/// that, an error that leaves soon after a request counts as snoozed.
+/// that, an error that leaves soon after a request counts as snoozed. Its times are the server's.
 QtObject {
     id: book
 
@@ -14,10 +14,10 @@ QtObject {
 
     readonly property bool isTold: serverList !== undefined && serverList !== null
 
-    /// How long a request may wait for its effect, in milliseconds.
-    readonly property int patience: 30 * 1000
-    /// How long a snooze that is over is remembered, in milliseconds.
-    readonly property int memory: 10 * 60 * 1000
+    /// How long a request may wait for its effect: half a minute of the user's time.
+    readonly property real patience: 30 * 1000 * Clock.serverRate
+    /// How long a snooze that is over is remembered: ten minutes of the user's time.
+    readonly property real memory: 10 * 60 * 1000 * Clock.serverRate
 
     /// What to show, in the order to show it: a list of {nodeID, type, stationID, device, state,
     /// until, askedAt, endedAt}. The state is "failing" (the snooze is over, the device still
@@ -38,7 +38,7 @@ QtObject {
     property var unclaimed: ({})
 
     readonly property var errors: surface ? surface.getSystemErrorModel() : null
-    readonly property real now: Clock.now
+    readonly property real now: Clock.serverNow
     readonly property bool isWatching: entryCount > 0 || outdated
 
     /// Takes note that @p nodes, as ErrorsPane.snoozeAsked tells of them, are to be snoozed until

@@ -9,7 +9,7 @@ Popup {
     /// The moment that the fields name, in milliseconds since the epoch.
     readonly property real moment: new Date(year.value, month.value - 1, day.value, hour.value,
                                             minute.value).getTime()
-    readonly property bool valid: moment > Clock.now
+    readonly property bool valid: moment > Clock.serverNow
 
     /// The user confirmed @p milliseconds since the epoch.
     signal chosen(milliseconds: real)
@@ -139,7 +139,7 @@ Popup {
             PlainLabel {
                 text: dialog.valid ? qsTr("%1, in %2", "time and duration")
                                      .arg(Format.dateTime(dialog.moment))
-                                     .arg(Format.duration((dialog.moment - Clock.now) / 1000))
+                                     .arg(Format.duration((dialog.moment - Clock.serverNow) / 1000))
                                    : qsTr("This moment is over; choose a later one")
             }
         }

@@ -33,17 +33,19 @@ Item {
             return qsTr("asked elsewhere");
         if (narrow)
             return qsTr("asked here");
-        return qsTr("asked here %1", "time").arg(Format.recentTime(modelData.askedAt, Clock.now));
+        return qsTr("asked here %1", "time").arg(Format.recentTime(modelData.askedAt,
+                                                                   Clock.serverNow));
     }
     readonly property string remaining: {
         if (progress === "failing")
-            return qsTr("over for %1").arg(Format.age(modelData.endedAt, Clock.now));
+            return qsTr("over for %1").arg(Format.age(modelData.endedAt, Clock.serverNow));
         if (progress === "asked")
             return qsTr("waiting");
-        return modelData.until <= Clock.now
-                ? qsTr("due") : qsTr("%1 left").arg(Format.duration((modelData.until - Clock.now) / 1000));
+        const left = modelData.until - Clock.serverNow;
+        return left <= 0 ? qsTr("due") : qsTr("%1 left").arg(Format.duration(left / 1000));
     }
-    readonly property string until: qsTr("until %1").arg(Format.recentTime(modelData.until, Clock.now))
+    readonly property string until: qsTr("until %1").arg(Format.recentTime(modelData.until,
+                                                                           Clock.serverNow))
 
     /// Whether a text does not fit.
     readonly property bool truncated: stateLines.truncated || deviceLines.truncated

@@ -321,6 +321,7 @@ Item {
             const good = () => itemsWhere(view, item => item instanceof StateMark && item.visible
                                                         && item.status === "good").length;
             compare(good(), 1);
+            verify(hasText(pane(ErrorsPane), "unknown"));
             view.statesSince = new Date(now - minute);
             tryVerify(() => inWindow("No errors") !== null);
             compare(good(), 4);
@@ -335,6 +336,13 @@ Item {
             tryVerify(() => pane(ErrorsPane).mapToItem(view, 0, 0).y > before);
             click("Dismiss the warning");
             tryVerify(() => pane(ErrorsPane).mapToItem(view, 0, 0).y === before);
+        }
+
+        function test_theServersTimeIsTheHostsWord() {
+            prepare({ "serverRate": 60, "serverOffset": now + hour - now * 60 });
+            compare(Clock.serverNow, now + hour);
+            view.serverOffset += hour;
+            compare(Clock.serverNow, now + 2 * hour);
         }
 
         function test_anInvalidDateIsNoDate() {

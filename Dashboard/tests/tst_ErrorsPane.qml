@@ -285,6 +285,19 @@ Item {
                                    "setSnooze st10/c2 " + end + " 3", "setSnooze st2 " + end + " 4"]);
         }
 
+        function test_snoozesEndInTheServersTime() {
+            prepare();
+            setServerTime(now + 10 * hour, 60);
+            Clock.now += second;
+            pane.selection.selectOnly(0);
+            pane.snoozeFor(900);
+            compare(plugin.calls, ["setSnooze st1/c1 " + (now / 1000 + 36000 + 60 + 900) + " 3"]);
+            pane.askSnoozeMoment();
+            tryVerify(() => inWindow("Hour") !== null);
+            compare([inWindow("Day").value, inWindow("Hour").value], [15, 2]);
+            keyClick(Qt.Key_Escape);
+        }
+
         function test_tellsWhichNodesAreToBeSnoozed() {
             prepare();
             const asked = spyOn(pane, "snoozeAsked");

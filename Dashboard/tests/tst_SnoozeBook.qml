@@ -138,6 +138,16 @@ Item {
             compare(book.rows[0].until, end + minute);
         }
 
+        function test_aFastServerLeavesTheUserAsMuchTime() {
+            setServerTime(now, 60);
+            prepare();
+            ask();
+            Clock.now = now + 30 * second;
+            compare(states(), ["asked"]);
+            Clock.now = now + 31 * second;
+            compare(states(), []);
+        }
+
         function test_otherErrorsAreNoSnoozes() {
             prepare();
             clear();

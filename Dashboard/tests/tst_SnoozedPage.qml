@@ -72,6 +72,16 @@ Item {
             verify(hasText(page, "2"));
         }
 
+        function test_countsDownInTheServersTime() {
+            prepare([snooze("st1/c1", 3, now + 2 * hour)]);
+            setServerTime(now + hour, 60);
+            verify(hasText(page, "1 h 0 min left"));
+            Clock.now += 2 * second;
+            verify(hasText(page, "58 min left"));
+            Clock.now += 58 * second;
+            verify(hasText(page, "due"));
+        }
+
         function test_tellsWhenItWasAskedFor() {
             prepare();
             raise();

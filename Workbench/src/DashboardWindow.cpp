@@ -61,6 +61,13 @@ void DashboardWindow::setConnection(bool isConnected, const QDateTime &since)
     rootObject()->setProperty("serverConnected", isConnected);
 }
 
+void DashboardWindow::setServerTime(qint64 nowMs, double rate)
+{
+    const auto realMs = static_cast<double>(QDateTime::currentMSecsSinceEpoch());
+    rootObject()->setProperty("serverRate", rate);
+    rootObject()->setProperty("serverOffset", static_cast<double>(nowMs) - realMs * rate);
+}
+
 void DashboardWindow::setStatesSince(const QDateTime &since)
 {
     rootObject()->setProperty("statesSince", since.isValid() ? QVariant(since) : QVariant());

@@ -26,6 +26,10 @@ public:
     /// Tells the dashboard whether the server is connected, and since when that is so.
     void setConnection(bool isConnected, const QDateTime &since);
 
+    /// Tells the dashboard that the server's clock shows a time now, in milliseconds since the
+    /// epoch, and how many seconds pass on it in a real one.
+    void setServerTime(qint64 nowMs, double rate);
+
     /// Tells the dashboard since when the states of all nodes have been known; a null date when
     /// they are not.
     void setStatesSince(const QDateTime &since);

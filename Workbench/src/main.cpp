@@ -209,6 +209,8 @@ int play(const Options &options, Catalogues &catalogues)
     DashboardFeed feed(workbench.link(), window);
     QObject::connect(&workbench.topology(), &TopologyPlugin::camStatusRetrievedChanged, &feed,
                      &DashboardFeed::takeStates);
+    if (local)
+        window.setServerTime(clock.nowMs(), options.speed);
     window.setFiles(files);
     window.setOperationalLog(logReader);
     window.setDark(preferences.isDark());

@@ -8,6 +8,8 @@ Item {
     property bool serverConnected: false
     property var connectionSince
     property var statesSince
+    property real serverRate: 1
+    property real serverOffset: 0
     property var stations: []
     property var snoozes
     property bool dark: true
