@@ -35,6 +35,10 @@ FocusScope {
     /// the reason why that failed.
     property QtObject files: null
 
+    /// Takes texts into the clipboard by `put(text)`, or null. The dashboard can do without, but then
+    /// it needs seconds for tens of thousands of errors.
+    property QtObject clipboard: null
+
     /// Reads the operational log, or null. It offers `newest(limit, text)`, which returns the newest
     /// entries first, up to a limit, as a list of {time, name, parameters}: milliseconds since the
     /// epoch, a text, a list of texts. With a text, name or parameters contain it, whatever the
@@ -197,6 +201,7 @@ FocusScope {
             connectionSince: root.knownSince
             statesSince: root.knownStatesSince
             files: root.files
+            clipboard: root.clipboard
             onNoticed: (status, text) => notice.show(status, text)
             onSnoozeAsked: (nodes, seconds) => book.take(nodes, seconds)
             onKeyboardLost: strip.focusCurrent()

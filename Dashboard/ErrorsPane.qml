@@ -13,6 +13,8 @@ Panel {
     property var statesSince
     /// What writes files for the dashboard, or null; see DashboardView.files.
     property var files: null
+    /// What takes texts into the clipboard, or null; see DashboardView.clipboard.
+    property var clipboard: null
 
     /// The user wants to see the station of an error.
     signal stationRequested(stationID: string)
@@ -103,7 +105,7 @@ Panel {
         const rows = selection.rows();
         if (rows.length === 0)
             return;
-        clipboard.put(rows.map(row => lineOf(row)).join("\n"));
+        pasteboard.put(rows.map(row => lineOf(row)).join("\n"));
         noticed("good", qsTr("%n error(s) copied", "", rows.length));
     }
 
@@ -125,7 +127,9 @@ Panel {
     }
 
     Clipboard {
-        id: clipboard
+        id: pasteboard
+
+        host: pane.clipboard
     }
 
     SnoozeUntilDialog {

@@ -11,6 +11,7 @@ FocusScope {
     property var connectionSince
     property var statesSince
     property var files: null
+    property var clipboard: null
 
     /// The pane to show where there is no room for all: "errors", "stations" or "usage".
     property string pane: "errors"
@@ -122,6 +123,7 @@ FocusScope {
         connectionSince: page.connectionSince
         statesSince: page.statesSince
         files: page.files
+        clipboard: page.clipboard
         onStationRequested: stationID => page.showStation(stationID)
         onNoticed: (status, text) => page.noticed(status, text)
         onSnoozeAsked: (nodes, seconds) => page.snoozeAsked(nodes, seconds)

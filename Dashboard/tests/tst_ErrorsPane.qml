@@ -408,6 +408,15 @@ Item {
             compare(notices.signalArguments[0][1], "2 error(s) copied");
         }
 
+        function test_copiesThroughTheHostWhereItCan() {
+            let content = "";
+            prepare({ "clipboard": { "put": text => content = text } });
+            pane.selection.selectOnly(2);
+            keyClick(Qt.Key_C, Qt.ControlModifier);
+            compare(content, "2024-05-14 13:07:33 CEST\tStation disconnected\tStation: Parking"
+                             + "\tst2\t");
+        }
+
         function test_copyingNothingLeavesTheClipboard() {
             prepare();
             const notices = spyOn(pane, "noticed");

@@ -51,6 +51,7 @@ DashboardWindow::DashboardWindow(QQmlEngine &engine, QObject &plugin, const QStr
     setSource(source);
     if (status() != QQuickView::Ready)
         throw HostError(tr("The dashboard cannot be loaded: %1").arg(describe(errors())));
+    rootObject()->setProperty("clipboard", QVariant::fromValue<QObject *>(&m_clipboard));
     QQmlProperty(rootObject(), QStringLiteral("dark"))
         .connectNotifySignal(this, SLOT(announceDark()));
 }

@@ -1,6 +1,8 @@
 #ifndef DASHBOARDWINDOW_H
 #define DASHBOARDWINDOW_H
 
+#include "SystemClipboard.h"
+
 #include <QQuickView>
 #include <QUrl>
 #include <QVariantList>
@@ -59,6 +61,9 @@ Q_SIGNALS:
 
 private Q_SLOTS:
     void announceDark();
+
+private:
+    SystemClipboard m_clipboard;
 };
 
 #endif

@@ -34,6 +34,7 @@ private Q_SLOTS:
     void tellsOfTheStations();
     void tellsOfTheSnoozes();
     void handsOverWhatWritesFiles();
+    void handsOverTheClipboard();
     void handsOverWhatReadsTheLog();
     void coloursAreSetAndHeardOf();
     void savesWhatIsShown();
@@ -111,6 +112,15 @@ void tst_DashboardWindow::tellsOfTheSnoozes()
     const QVariantList snoozes{QVariantMap{{QStringLiteral("nodeID"), QStringLiteral("st")}}};
     window.setSnoozes(snoozes);
     QCOMPARE(window.rootObject()->property("snoozes").toList(), snoozes);
+}
+
+void tst_DashboardWindow::handsOverTheClipboard()
+{
+    QQmlEngine engine;
+    QObject plugin;
+    const DashboardWindow window(engine, plugin, {}, testFile(QStringLiteral("Dashboard.qml")));
+    QVERIFY(qobject_cast<SystemClipboard *>(
+        window.rootObject()->property("clipboard").value<QObject *>()));
 }
 
 void tst_DashboardWindow::handsOverWhatReadsTheLog()

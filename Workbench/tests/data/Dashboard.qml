@@ -14,6 +14,7 @@ Item {
     property var snoozes
     property bool dark: true
     property QtObject files: null
+    property QtObject clipboard: null
     property QtObject operationalLog: null
 
     anchors.fill: parent
