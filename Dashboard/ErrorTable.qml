@@ -21,8 +21,12 @@ ListView {
     /// The row that the pointer rests on, or null.
     property ErrorRow hoveredRow: null
     /// The row with texts that do not fit, to be told in full: the pointer's or else the keyboard's.
-    readonly property ErrorRow toldRow: [hoveredRow, activeFocus ? currentItem : null].find(
-                                            row => row && row.truncated && row.drawn) ?? null
+    readonly property ErrorRow toldRow: {
+        if (hoveredRow?.truncated)
+            return hoveredRow;
+        const row = activeFocus ? currentItem as ErrorRow : null;
+        return row?.truncated && row.drawn ? row : null;
+    }
 
     /// The user wants to see the station of an error.
     signal stationRequested(stationID: string)
@@ -74,9 +78,11 @@ ListView {
         }
     }
 
-    // One hint for all rows; it tells what did not fit.
+    // One hint for all rows; it tells what did not fit. Rows that wait for reuse are in no window, so
+    // it belongs to the list.
     Tip {
-        parent: table.toldRow ?? table
+        parent: table
+        y: (table.toldRow?.y ?? 0) - table.contentY - implicitHeight - Theme.gap
         text: table.toldRow?.fullText ?? ""
         visible: table.toldRow !== null
     }

@@ -50,8 +50,8 @@ Item {
     /// Whether a text does not fit.
     readonly property bool truncated: stateLines.truncated || deviceLines.truncated
                                       || stationLines.truncated || timeLines.truncated
-    readonly property string fullText: [stateText + " · " + request, device, error, stationName,
-                                        remaining + " · " + until].join("\n")
+    readonly property string fullText: stateText + " · " + request + "\n" + device + "\n" + error + "\n"
+                                       + stationName + "\n" + remaining + " · " + until
 
     signal pressed
     signal doubleClicked

@@ -43,6 +43,9 @@ struct Scene
 /// Of the pictures: quick to save, and still small.
 constexpr int LightCompression = 80;
 
+/// What the dashboard needs to take over a list of snoozes.
+constexpr int SettlingMs = 150;
+
 bool warned = false;
 
 void failOnWarnings(QtMsgType type, const QMessageLogContext &, const QString &message)
@@ -150,6 +153,7 @@ void fillAndShowSnoozes(QQuickView &view, FakePlugin &plugin)
     turnTo(view, "snoozed");
     if (view.rootObject()->property("snoozes").isValid()) {
         view.rootObject()->setProperty("snoozes", SampleSite::snoozes(5));
+        QTest::qWait(SettlingMs);
         view.rootObject()->setProperty("snoozes", SampleSite::snoozes(4));
         SampleSite::endSnooze(plugin);
     }

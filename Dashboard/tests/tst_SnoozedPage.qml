@@ -174,7 +174,7 @@ Item {
             list.forceActiveFocus();
             for (let i = 0; i < 5; ++i)
                 keyClick(Qt.Key_PageDown);
-            tryVerify(() => list.contentY > 0);
+            tryVerify(() => list.currentItem?.y + list.rowHeight <= list.contentY + list.height);
             const top = list.contentY;
             const row = list.currentIndex;
             compare(row, 5 * list.rowsPerPage);
