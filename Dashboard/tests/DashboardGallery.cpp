@@ -46,6 +46,9 @@ constexpr int LightCompression = 80;
 /// What the dashboard needs to take over a list of snoozes.
 constexpr int SettlingMs = 150;
 
+/// After which a hint is there.
+constexpr int HintDelayMs = 800;
+
 bool warned = false;
 
 void failOnWarnings(QtMsgType type, const QMessageLogContext &, const QString &message)
@@ -98,6 +101,18 @@ void fillAndOpenMenu(QQuickView &view, FakePlugin &plugin)
     fillAndSelect(view, plugin);
     QTest::keyClick(&view, Qt::Key_S);
     QTest::keyClick(&view, Qt::Key_Down);
+}
+
+void fillAndRestOnALongName(QQuickView &view, FakePlugin &plugin)
+{
+    fill(view, plugin);
+    plugin.addError(3, QStringLiteral("quay"), QStringLiteral("quay/long"),
+                    {QStringLiteral("Quay NVR"),
+                     QStringLiteral("Berth 12, behind the second crane, looking at the gate")},
+                    SampleSite::now() - 500);
+    QTest::keyClick(&view, Qt::Key_Down);
+    QTest::keyClick(&view, Qt::Key_Home);
+    QTest::qWait(HintDelayMs);
 }
 
 void fillAndAskMoment(QQuickView &view, FakePlugin &plugin)
@@ -247,6 +262,8 @@ QList<Scene> scenes()
          .language = QStringLiteral("de"),
          .act = fillAndWarnOfMany},
         {.name = QStringLiteral("filtered"), .act = fillAndFilterAway},
+        {.name = QStringLiteral("hint"), .act = fillAndRestOnALongName},
+        {.name = QStringLiteral("hint-light"), .dark = false, .act = fillAndRestOnALongName},
         {.name = QStringLiteral("menu"), .act = fillAndOpenMenu},
         {.name = QStringLiteral("moment"), .act = fillAndAskMoment},
         {.name = QStringLiteral("notice"), .dark = false, .act = fillAndSnooze},
