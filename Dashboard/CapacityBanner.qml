@@ -3,15 +3,20 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Layouts
 
-/// Warns of servers that are near their capacity, one line each. A dismissed warning comes back
-/// only when that server has filled up further.
+/// Warns of servers that are near their capacity: of the fullest in a line each, of the others in
+/// one. A dismissed warning comes back only when that server has filled up further.
 Column {
     id: banner
 
     required property var surface
 
+    readonly property int maxLines: 3
+
     /// List of {server, percentage}, as they first came.
     property var warnings: []
+    readonly property var ranked: warnings.slice().sort(
+                                      (one, other) => other.percentage - one.percentage)
+    readonly property var others: ranked.slice(maxLines)
     /// Server to the percentage at which its warning was dismissed.
     property var dismissed: ({})
 
@@ -25,10 +30,13 @@ Column {
         warnings = others;
     }
 
-    function dismiss(server: string) {
-        const warning = warnings.find(entry => entry.server === server);
-        dismissed[server] = warning.percentage;
-        warnings = warnings.filter(entry => entry !== warning);
+    /// Takes the warnings of some servers away.
+    function dismiss(servers: var) {
+        for (const warning of warnings) {
+            if (servers.includes(warning.server))
+                dismissed[warning.server] = warning.percentage;
+        }
+        warnings = warnings.filter(warning => !servers.includes(warning.server));
     }
 
     Connections {
@@ -39,51 +47,64 @@ Column {
         }
     }
 
-    Repeater {
-        model: banner.warnings
+    component Line: Rectangle {
+        id: line
 
-        Rectangle {
-            id: line
+        property alias text: label.text
 
-            required property var modelData
+        signal dismissed
 
-            width: banner.width
-            height: Math.max(Theme.em(2.8), label.implicitHeight + Theme.gap)
-            color: Theme.dark ? "#3a2d14" : "#fdf0d5"
-            Accessible.role: Accessible.AlertMessage
-            Accessible.name: label.text
+        width: parent?.width ?? 0
+        height: Math.max(Theme.em(2.8), label.implicitHeight + Theme.gap)
+        color: Theme.dark ? "#3a2d14" : "#fdf0d5"
+        Accessible.role: Accessible.AlertMessage
+        Accessible.name: text
 
-            RowLayout {
-                anchors.fill: parent
-                anchors.leftMargin: Theme.em(1)
-                anchors.rightMargin: Theme.gap
-                spacing: Theme.pad
+        RowLayout {
+            anchors.fill: parent
+            anchors.leftMargin: Theme.em(1)
+            anchors.rightMargin: Theme.gap
+            spacing: Theme.pad
 
-                StateMark {
-                    status: "warning"
-                }
+            StateMark {
+                status: "warning"
+            }
 
-                Text {
-                    id: label
+            Text {
+                id: label
 
-                    Layout.fillWidth: true
-                    text: Format.fill(qsTr("%1 has reached %2 of its capacity",
-                                           "server and percentage"),
-                                      line.modelData.server || qsTr("A server"),
-                                      Format.percent(line.modelData.percentage))
-                    textFormat: Text.PlainText
-                    wrapMode: Text.Wrap
-                    color: Theme.text
-                    font.pixelSize: Theme.normalFont
-                }
+                Layout.fillWidth: true
+                textFormat: Text.PlainText
+                wrapMode: Text.Wrap
+                color: Theme.text
+                font.pixelSize: Theme.normalFont
+            }
 
-                ActionButton {
-                    flat: true
-                    glyph: "close"
-                    hint: qsTr("Dismiss the warning")
-                    onClicked: banner.dismiss(line.modelData.server)
-                }
+            ActionButton {
+                flat: true
+                glyph: "close"
+                hint: qsTr("Dismiss the warning")
+                onClicked: line.dismissed()
             }
         }
+    }
+
+    Repeater {
+        model: banner.ranked.slice(0, banner.maxLines)
+
+        Line {
+            required property var modelData
+
+            text: Format.fill(qsTr("%1 has reached %2 of its capacity", "server and percentage"),
+                              modelData.server || qsTr("A server"),
+                              Format.percent(modelData.percentage))
+            onDismissed: banner.dismiss([modelData.server])
+        }
+    }
+
+    Line {
+        visible: banner.others.length > 0
+        text: qsTr("and %n more server(s)", "near their capacity", banner.others.length)
+        onDismissed: banner.dismiss(banner.others.map(warning => warning.server))
     }
 }

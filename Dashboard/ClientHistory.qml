@@ -1,6 +1,7 @@
 import QtQuick
 
-/// The client machine's samples of the last minutes, oldest first. A failed sample is null.
+/// The client machine's samples of the last minutes, oldest first. A failed sample is null; the
+/// monitor reports it as a negative CPU usage and as no memory in use at all.
 QtObject {
     id: history
 
@@ -12,8 +13,8 @@ QtObject {
     property var cpu: []
     property var memory: []
 
-    function pushed(list: var, value: int): var {
-        const known = value >= 0 ? value : null;
+    function pushed(list: var, value: int, least: int): var {
+        const known = value >= least ? value : null;
         return list.slice(Math.max(0, list.length + 1 - capacity)).concat([known]);
     }
 
@@ -21,8 +22,8 @@ QtObject {
         target: history.surface
 
         function onClientResourceChanged(cpu, memory) {
-            history.cpu = history.pushed(history.cpu, cpu);
-            history.memory = history.pushed(history.memory, memory);
+            history.cpu = history.pushed(history.cpu, cpu, 0);
+            history.memory = history.pushed(history.memory, memory, 1);
         }
     }
 }

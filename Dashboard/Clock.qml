@@ -9,6 +9,12 @@ QtObject {
     /// Milliseconds since the epoch, brought up to date once a second.
     property real now: Date.now()
 
+    /// The time of the site's server, by which snoozes end: now × serverRate + serverOffset. It is
+    /// that of this machine unless the host says otherwise.
+    readonly property real serverNow: now * serverRate + serverOffset
+    property real serverRate: 1
+    property real serverOffset: 0
+
     /// Whether time goes on by itself.
     property alias running: timer.running
 
@@ -18,6 +24,12 @@ QtObject {
         interval: 1000
         repeat: true
         running: true
-        onTriggered: clock.now = Date.now()
+        onTriggered: clock.refresh()
+    }
+
+    /// Brings the time up to date at once, unless it stands still.
+    function refresh() {
+        if (running)
+            now = Date.now();
     }
 }

@@ -14,6 +14,13 @@ FocusScope {
     property bool serverConnected: false
     /// Since when serverConnected has its value: a Date, or undefined when nobody knows.
     property var connectionSince
+    /// Since when the states of all stations and cameras have been known: a Date, or undefined while
+    /// they are not. Before, nothing at the site is said to be well.
+    property var statesSince
+    /// The server's time is that of this machine, in milliseconds since the epoch, times the rate plus
+    /// the offset.
+    property real serverRate: 1
+    property real serverOffset: 0
     /// List of {stationID, name, parentID, connected}; parentID is empty for a top-level station.
     property var stations: []
 
@@ -28,6 +35,10 @@ FocusScope {
     /// the reason why that failed.
     property QtObject files: null
 
+    /// Takes texts into the clipboard by `put(text)`, or null. The dashboard can do without, but then
+    /// it needs seconds for tens of thousands of errors.
+    property QtObject clipboard: null
+
     /// Reads the operational log, or null. It offers `newest(limit, text)`, which returns the newest
     /// entries first, up to a limit, as a list of {time, name, parameters}: milliseconds since the
     /// epoch, a text, a list of texts. With a text, name or parameters contain it, whatever the
@@ -40,8 +51,8 @@ FocusScope {
     /// The page shown: "overview", "snoozed" or "log".
     property string page: "overview"
 
-    readonly property var knownSince: connectionSince && !isNaN(connectionSince.getTime())
-                                      ? connectionSince : undefined
+    readonly property var knownSince: validDate(connectionSince)
+    readonly property var knownStatesSince: validDate(statesSince)
 
     // What it offers is known only at run time.
     readonly property var surface: plugin
@@ -54,6 +65,10 @@ FocusScope {
         { "key": "log", "text": qsTr("Log"), "glyph": "log" }
     ]
 
+    function validDate(date: var): var {
+        return date && !isNaN(date.getTime()) ? date : undefined;
+    }
+
     /// Shows what a tab stands for: a page, or a pane of the overview.
     function show(key: string) {
         const isPane = overview.panes.some(pane => pane.key === key);
@@ -65,6 +80,8 @@ FocusScope {
     anchors.fill: parent
     focus: true
     onDarkChanged: Theme.dark = dark
+    onServerRateChanged: Clock.serverRate = serverRate
+    onServerOffsetChanged: Clock.serverOffset = serverOffset
     Component.onCompleted: Theme.dark = dark
 
     Connections {
@@ -118,6 +135,7 @@ FocusScope {
         id: directory
 
         stations: root.stations
+        statesKnown: root.knownStatesSince !== undefined
         errorCounts: root.surface?.stationErrorList ?? []
     }
 
@@ -181,7 +199,9 @@ FocusScope {
             directory: directory
             serverConnected: root.serverConnected
             connectionSince: root.knownSince
+            statesSince: root.knownStatesSince
             files: root.files
+            clipboard: root.clipboard
             onNoticed: (status, text) => notice.show(status, text)
             onSnoozeAsked: (nodes, seconds) => book.take(nodes, seconds)
             onKeyboardLost: strip.focusCurrent()

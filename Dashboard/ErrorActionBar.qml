@@ -9,6 +9,7 @@ RowLayout {
     property int shown: 0
     property int total: 0
     property bool serverConnected: false
+    property bool statesKnown: false
     /// Whether what is shown can be saved as a file.
     property bool canExport: false
     readonly property bool canSnooze: serverConnected && selection.snoozableCount > 0
@@ -45,7 +46,8 @@ RowLayout {
         id: numbersLabel
 
         Layout.fillWidth: true
-        readonly property string numbers: !bar.serverConnected && bar.total === 0
+        readonly property string numbers: !(bar.serverConnected && bar.statesKnown)
+                                          && bar.total === 0
                                           ? qsTr("unknown")
                                           : bar.shown === bar.total
                                           ? qsTr("%1", "number of errors").arg(bar.total)

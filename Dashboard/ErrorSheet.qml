@@ -32,7 +32,7 @@ QtObject {
                                              proxy.data(index, ErrorRoles.triggerDeviceName) ?? "",
                                              station);
         return [proxy.data(index, ErrorRoles.errorName), device, station,
-                timestamp > 0 ? Format.age(timestamp, now) : "",
+                timestamp > 0 ? Format.age(timestamp, now) : qsTr("unknown"),
                 timestamp > 0 ? Format.timeInZone(timestamp, zone) : "", stationID, deviceID];
     }
 }

@@ -20,6 +20,13 @@ ListView {
 
     /// The row that the pointer rests on, or null.
     property ErrorRow hoveredRow: null
+    /// The row with texts that do not fit, to be told in full: the pointer's or else the keyboard's.
+    readonly property ErrorRow toldRow: {
+        if (hoveredRow?.truncated)
+            return hoveredRow;
+        const row = activeFocus ? currentItem as ErrorRow : null;
+        return row?.truncated && row.drawn ? row : null;
+    }
 
     /// The user wants to see the station of an error.
     signal stationRequested(stationID: string)
@@ -71,11 +78,13 @@ ListView {
         }
     }
 
-    // One hint for all rows; it tells what did not fit.
+    // One hint for all rows; it tells what did not fit. Rows that wait for reuse are in no window, so
+    // it belongs to the list.
     Tip {
-        parent: table.hoveredRow ?? table
-        text: table.hoveredRow?.fullText ?? ""
-        visible: table.hoveredRow?.truncated ?? false
+        parent: table
+        y: (table.toldRow?.y ?? 0) - table.contentY - implicitHeight - Theme.gap
+        text: table.toldRow?.fullText ?? ""
+        visible: table.toldRow !== null
     }
 
     onActiveFocusChanged: {

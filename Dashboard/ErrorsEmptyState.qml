@@ -1,18 +1,21 @@
 import QtQuick
 
-/// Why the error list is empty: the server is lost, a filter hides what there is, the site has only
-/// just been connected, or all is well.
+/// Why the error list is empty: the server is lost, a filter hides what there is, the states of the
+/// devices are not known or have only just come, or all is well.
 EmptyState {
     id: state
 
     property bool serverConnected: false
     property var connectionSince
+    /// Since when the states of the devices have been known: a Date, or undefined.
+    property var statesSince
     property int hidden: 0
 
-    /// A fresh connection knows the state of the devices only after a while.
+    /// States that have just come are in the list only after a while.
     readonly property int settlingTime: 10000
-    readonly property bool settling: connectionSince !== undefined && connectionSince !== null
-                                     && Clock.now - connectionSince.getTime() < settlingTime
+    readonly property real lastChange: Math.max(connectionSince?.getTime() ?? 0,
+                                                statesSince?.getTime() ?? 0)
+    readonly property bool settling: !statesSince || Clock.now - lastChange < settlingTime
 
     readonly property string reason: !serverConnected ? "lost"
                                                       : hidden > 0 ? "filtered"
@@ -41,7 +44,8 @@ EmptyState {
         case "filtered":
             return qsTr("Press Esc to show all errors.");
         case "settling":
-            return qsTr("The server has just been connected; the state of the devices follows.");
+            return statesSince ? qsTr("The states of the devices have just come.")
+                               : qsTr("The states of the devices are not known yet.");
         default:
             return qsTr("All is well: no camera, station or volume reports an error.");
         }

@@ -9,8 +9,12 @@ Panel {
     required property StationDirectory directory
     property bool serverConnected: false
     property var connectionSince
+    /// See DashboardView.statesSince.
+    property var statesSince
     /// What writes files for the dashboard, or null; see DashboardView.files.
     property var files: null
+    /// What takes texts into the clipboard, or null; see DashboardView.clipboard.
+    property var clipboard: null
 
     /// The user wants to see the station of an error.
     signal stationRequested(stationID: string)
@@ -42,6 +46,7 @@ Panel {
     }
     readonly property SnoozeRequests requests: SnoozeRequests {
         surface: pane.surface
+        serverConnected: pane.serverConnected
         onUpdated: pane.noticed(status, summary)
     }
 
@@ -54,7 +59,8 @@ Panel {
     }
 
     function snoozeFor(seconds: int) {
-        snoozeUntil(Clock.now + seconds * 1000);
+        Clock.refresh();
+        snoozeUntil(Clock.serverNow + seconds * 1000);
     }
 
     function snoozeUntil(milliseconds: real) {
@@ -82,7 +88,7 @@ Panel {
 
     function askSnoozeMoment() {
         const hour = 3600 * 1000;
-        snoozeDialog.ask(Math.ceil(Clock.now / hour) * hour + hour);
+        snoozeDialog.ask(Math.ceil(Clock.serverNow / hour) * hour + hour);
     }
 
     /// One line for an error, its fields parted by tabs.
@@ -99,7 +105,7 @@ Panel {
         const rows = selection.rows();
         if (rows.length === 0)
             return;
-        clipboard.put(rows.map(row => lineOf(row)).join("\n"));
+        pasteboard.put(rows.map(row => lineOf(row)).join("\n"));
         noticed("good", qsTr("%n error(s) copied", "", rows.length));
     }
 
@@ -121,7 +127,9 @@ Panel {
     }
 
     Clipboard {
-        id: clipboard
+        id: pasteboard
+
+        host: pane.clipboard
     }
 
     SnoozeUntilDialog {
@@ -162,6 +170,7 @@ Panel {
             shown: pane.shown.count
             total: pane.total.count
             serverConnected: pane.serverConnected
+            statesKnown: pane.directory.statesKnown
             canExport: pane.files !== null
             onSnoozeChosen: seconds => pane.snoozeFor(seconds)
             onSnoozeMomentWanted: pane.askSnoozeMoment()
@@ -214,8 +223,13 @@ Panel {
                 visible: pane.shown.count === 0
                 serverConnected: pane.serverConnected
                 connectionSince: pane.connectionSince
+                statesSince: pane.statesSince
                 hidden: pane.total.count - pane.shown.count
             }
         }
+    }
+
+    FocusRing {
+        visible: table.activeFocus && table.count === 0
     }
 }

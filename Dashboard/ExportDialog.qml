@@ -70,10 +70,14 @@ Popup {
     ColumnLayout {
         anchors.fill: parent
         spacing: Theme.em(1)
+        Accessible.role: Accessible.Dialog
+        Accessible.name: title.text
         Keys.onReturnPressed: dialog.confirm()
         Keys.onEnterPressed: dialog.confirm()
 
         PlainLabel {
+            id: title
+
             text: qsTr("Export as CSV")
             font.pixelSize: Theme.largeFont
             font.weight: Font.DemiBold

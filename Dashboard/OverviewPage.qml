@@ -9,7 +9,9 @@ FocusScope {
     required property StationDirectory directory
     property bool serverConnected: false
     property var connectionSince
+    property var statesSince
     property var files: null
+    property var clipboard: null
 
     /// The pane to show where there is no room for all: "errors", "stations" or "usage".
     property string pane: "errors"
@@ -39,6 +41,7 @@ FocusScope {
 
     readonly property MonitoringSupport support: MonitoringSupport {
         surface: page.surface
+        directory: page.directory
         serverConnected: page.serverConnected
     }
 
@@ -118,7 +121,9 @@ FocusScope {
         directory: page.directory
         serverConnected: page.serverConnected
         connectionSince: page.connectionSince
+        statesSince: page.statesSince
         files: page.files
+        clipboard: page.clipboard
         onStationRequested: stationID => page.showStation(stationID)
         onNoticed: (status, text) => page.noticed(status, text)
         onSnoozeAsked: (nodes, seconds) => page.snoozeAsked(nodes, seconds)

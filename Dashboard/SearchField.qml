@@ -8,6 +8,9 @@ ThemedTextField {
     /// The text that applies.
     property string applied
 
+    /// Whether something was typed that does not apply yet.
+    readonly property bool waiting: typing.running
+
     /// The user wants @p text to apply; the owner decides whether it becomes applied.
     signal searched(text: string)
 

@@ -4,7 +4,7 @@ import QtQuick
 ///
 /// The plug-in tells neither. The book puts it together from what is asked here, from errors that
 /// leave the list and come back, and from the server's own list where the host knows it. Without
-/// that, an error that leaves soon after a request counts as snoozed.
+/// that, an error that leaves soon after a request counts as snoozed. Its times are the server's.
 QtObject {
     id: book
 
@@ -14,10 +14,10 @@ QtObject {
 
     readonly property bool isTold: serverList !== undefined && serverList !== null
 
-    /// How long a request may wait for its effect, in milliseconds.
-    readonly property int patience: 30 * 1000
-    /// How long a snooze that is over is remembered, in milliseconds.
-    readonly property int memory: 10 * 60 * 1000
+    /// How long a request may wait for its effect: half a minute of the user's time.
+    readonly property real patience: 30 * 1000 * Clock.serverRate
+    /// How long a snooze that is over is remembered: ten minutes of the user's time.
+    readonly property real memory: 10 * 60 * 1000 * Clock.serverRate
 
     /// What to show, in the order to show it: a list of {nodeID, type, stationID, device, state,
     /// until, askedAt, endedAt}. The state is "failing" (the snooze is over, the device still
@@ -32,12 +32,19 @@ QtObject {
     property var entries: ({})
     property int entryCount: 0
 
+    // Each of thousands of snoozes may bring the whole list anew, so it is taken over when it is
+    // needed; until then, what happens to errors without an entry is kept here, by their ids.
+    property bool outdated: false
+    property var unclaimed: ({})
+
     readonly property var errors: surface ? surface.getSystemErrorModel() : null
-    readonly property real now: Clock.now
+    readonly property real now: Clock.serverNow
+    readonly property bool isWatching: entryCount > 0 || outdated
 
     /// Takes note that @p nodes, as ErrorsPane.snoozeAsked tells of them, are to be snoozed until
     /// @p seconds since the epoch.
     function take(nodes: var, seconds: real) {
+        catchUp();
         for (const node of nodes) {
             const entry = entryOf(node.nodeID, node.type);
             entry.stationID = node.stationID;
@@ -60,7 +67,7 @@ QtObject {
                 "nodeID": nodeID, "type": type, "until": 0, "askedAt": 0, "endedAt": 0,
                 "stationID": isCamera ? nodeID.slice(0, Math.max(0, slash)) : nodeID,
                 "device": isCamera ? nodeID.slice(slash + 1) : "",
-                "inForce": false, "listed": false
+                "inForce": false, "listed": unclaimed[key] ?? false
             };
         }
         return entries[key];
@@ -71,9 +78,14 @@ QtObject {
         entry.endedAt = moment;
     }
 
+    function catchUp() {
+        if (outdated && isTold)
+            adoptServerList();
+        outdated = false;
+        unclaimed = {};
+    }
+
     function adoptServerList() {
-        if (!serverList)
-            return;
         const told = {};
         for (const snooze of serverList) {
             const entry = entryOf(snooze.nodeID, snooze.type);
@@ -84,16 +96,19 @@ QtObject {
             told[snooze.type + "_" + snooze.nodeID] = true;
         }
         for (const key in entries) {
-            if (entries[key].inForce && !(key in told))
-                end(entries[key], now);
+            const entry = entries[key];
+            // It may have ended while the server was away.
+            if (entry.inForce && !(key in told))
+                end(entry, Math.min(now, entry.until));
         }
-        burst.start();
     }
 
     /// Takes note that an error came to the list or left it.
     function note(key: string, listed: bool) {
         if (key in entries)
             noteEntry(entries[key], listed);
+        else if (outdated)
+            unclaimed[key] = listed;
     }
 
     function noteEntry(entry: var, listed: bool) {
@@ -118,6 +133,7 @@ QtObject {
     }
 
     function letTimePass() {
+        catchUp();
         for (const key in entries) {
             const entry = entries[key];
             if (!isTold && entry.inForce && entry.until <= now) {
@@ -138,6 +154,7 @@ QtObject {
     }
 
     function publish() {
+        catchUp();
         const order = ["failing", "asked", "snoozed"];
         const shown = Object.values(entries).map(
                         entry => Object.assign({ "state": stateOf(entry) }, entry)).filter(
@@ -149,14 +166,17 @@ QtObject {
         failingCount = shown.filter(entry => entry.state === "failing").length;
     }
 
-    onServerListChanged: adoptServerList()
+    onServerListChanged: {
+        outdated = true;
+        burst.start();
+    }
     onNowChanged: letTimePass()
 
-    // Thousands of errors may come and go at once.
+    // Thousands of errors may come and go at once, in one turn of the event loop or in as many.
     readonly property Timer burst: Timer {
         id: burst
 
-        interval: 0
+        interval: 100
         onTriggered: book.publish()
     }
 
@@ -164,12 +184,12 @@ QtObject {
         target: book.errors
 
         function onRowsInserted(parent, first, last) {
-            for (let row = first; row <= last && book.entryCount > 0; ++row)
+            for (let row = first; row <= last && book.isWatching; ++row)
                 book.note(book.idAt(row), true);
         }
 
         function onRowsAboutToBeRemoved(parent, first, last) {
-            for (let row = first; row <= last && book.entryCount > 0; ++row)
+            for (let row = first; row <= last && book.isWatching; ++row)
                 book.note(book.idAt(row), false);
         }
     }

@@ -5,19 +5,22 @@ QtObject {
     id: requests
 
     required property var surface
+    property bool serverConnected: true
 
     property int sent: 0
     property int confirmed: 0
     property int refused: 0
+    /// How many were on their way when the server went; it may have set them.
+    property int lost: 0
     /// How many the host did not take on.
     property int unsent: 0
-    readonly property int pending: Math.max(0, sent - confirmed - refused)
+    readonly property int pending: Math.max(0, sent - confirmed - refused - lost)
 
     /// Something about the numbers changed.
     signal updated
 
-    /// How many stayed without an answer for too long.
-    readonly property int unanswered: patience.running ? 0 : pending
+    /// How many stayed without an answer, for too long or for ever.
+    readonly property int unanswered: lost + (patience.running ? 0 : pending)
 
     /// "good", "critical", or "unknown" while answers are awaited.
     readonly property string status: refused + unsent + unanswered > 0
@@ -34,7 +37,7 @@ QtObject {
             parts.push(qsTr("%n snooze(s) could not be sent", "", unsent));
         if (unanswered > 0)
             parts.push(qsTr("No answer to %n snooze(s)", "", unanswered));
-        else if (pending > 0)
+        if (pending > 0 && patience.running)
             parts.push(qsTr("Waiting for the answer to %n snooze(s)", "", pending));
         return parts.join(" · ");
     }
@@ -57,6 +60,7 @@ QtObject {
         sent = 0;
         confirmed = 0;
         refused = 0;
+        lost = 0;
         unsent = 0;
     }
 
@@ -67,8 +71,10 @@ QtObject {
         }
         if (success)
             ++confirmed;
-        else
+        else if (serverConnected)
             ++refused;
+        else
+            ++lost;
         patience.running = pending > 0;
         updated();
     }

@@ -9,7 +9,7 @@ Popup {
     /// The moment that the fields name, in milliseconds since the epoch.
     readonly property real moment: new Date(year.value, month.value - 1, day.value, hour.value,
                                             minute.value).getTime()
-    readonly property bool valid: moment > Clock.now
+    readonly property bool valid: moment > Clock.serverNow
 
     /// The user confirmed @p milliseconds since the epoch.
     signal chosen(milliseconds: real)
@@ -50,10 +50,14 @@ Popup {
     ColumnLayout {
         anchors.fill: parent
         spacing: Theme.em(1)
+        Accessible.role: Accessible.Dialog
+        Accessible.name: title.text
         Keys.onReturnPressed: dialog.confirm()
         Keys.onEnterPressed: dialog.confirm()
 
         PlainLabel {
+            id: title
+
             text: qsTr("Snooze until")
             font.pixelSize: Theme.largeFont
             font.weight: Font.DemiBold
@@ -135,7 +139,7 @@ Popup {
             PlainLabel {
                 text: dialog.valid ? qsTr("%1, in %2", "time and duration")
                                      .arg(Format.dateTime(dialog.moment))
-                                     .arg(Format.duration((dialog.moment - Clock.now) / 1000))
+                                     .arg(Format.duration((dialog.moment - Clock.serverNow) / 1000))
                                    : qsTr("This moment is over; choose a later one")
             }
         }

@@ -33,17 +33,25 @@ Item {
             return qsTr("asked elsewhere");
         if (narrow)
             return qsTr("asked here");
-        return qsTr("asked here %1", "time").arg(Format.recentTime(modelData.askedAt, Clock.now));
+        return qsTr("asked here %1", "time").arg(Format.recentTime(modelData.askedAt,
+                                                                   Clock.serverNow));
     }
     readonly property string remaining: {
         if (progress === "failing")
-            return qsTr("over for %1").arg(Format.age(modelData.endedAt, Clock.now));
+            return qsTr("over for %1").arg(Format.age(modelData.endedAt, Clock.serverNow));
         if (progress === "asked")
             return qsTr("waiting");
-        return modelData.until <= Clock.now
-                ? qsTr("due") : qsTr("%1 left").arg(Format.duration((modelData.until - Clock.now) / 1000));
+        const left = modelData.until - Clock.serverNow;
+        return left <= 0 ? qsTr("due") : qsTr("%1 left").arg(Format.duration(left / 1000));
     }
-    readonly property string until: qsTr("until %1").arg(Format.recentTime(modelData.until, Clock.now))
+    readonly property string until: qsTr("until %1").arg(Format.recentTime(modelData.until,
+                                                                           Clock.serverNow))
+
+    /// Whether a text does not fit.
+    readonly property bool truncated: stateLines.truncated || deviceLines.truncated
+                                      || stationLines.truncated || timeLines.truncated
+    readonly property string fullText: stateText + " · " + request + "\n" + device + "\n" + error + "\n"
+                                       + stationName + "\n" + remaining + " · " + until
 
     signal pressed
     signal doubleClicked
@@ -103,6 +111,7 @@ Item {
         property alias second: secondLine.text
         property alias firstColor: firstLine.color
         property int alignment: Text.AlignLeft
+        readonly property bool truncated: visible && (firstLine.truncated || secondLine.truncated)
 
         anchors.verticalCenter: parent.verticalCenter
         spacing: Theme.em(0.15)
@@ -146,6 +155,8 @@ Item {
     }
 
     Lines {
+        id: stationLines
+
         visible: !row.narrow
         x: deviceLines.x + deviceLines.width + Theme.pad
         width: timeLines.x - Theme.pad - x
@@ -160,6 +171,11 @@ Item {
         alignment: Text.AlignRight
         first: row.remaining
         second: row.until
+    }
+
+    Tip {
+        text: row.fullText
+        visible: row.truncated && row.drawn && (mouse.containsMouse || row.current)
     }
 
     RowRing {

@@ -11,6 +11,10 @@ ThemedComboBox {
     /// The user chose; the owner decides whether it becomes this box's station.
     signal chosen(stationID: string)
 
+    /// Whether the station chosen is one that is no longer listed.
+    readonly property bool isGone: stationID !== ""
+                                   && !directory.rows.some(row => row.stationID === stationID)
+
     function showChoice() {
         currentIndex = Math.max(0, indexOfValue(stationID));
     }
@@ -20,7 +24,8 @@ ThemedComboBox {
     model: [
         { "stationID": "", "text": qsTr("All stations") },
         ...directory.rows.filter(row => row.stationID !== "").map(
-            row => ({ "stationID": row.stationID, "text": row.name }))
+            row => ({ "stationID": row.stationID, "text": row.name })),
+        ...(isGone ? [{ "stationID": stationID, "text": stationID }] : [])
     ]
     Accessible.name: qsTr("Station")
 

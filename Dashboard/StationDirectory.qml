@@ -9,6 +9,8 @@ QtObject {
 
     /// The host's list of {stationID, name, parentID, connected}.
     property var stations: []
+    /// Whether the host knows the states of the stations.
+    property bool statesKnown: false
     /// The plug-in's list of {stationID, errorNumber}.
     property var errorCounts: []
 
@@ -39,9 +41,9 @@ QtObject {
         return errorsByID[stationID] ?? 0;
     }
 
-    /// True, false, or undefined for a station that the host does not list.
+    /// True, false, or undefined for a station whose state the host does not know.
     function isConnected(stationID: string): var {
-        return byID[stationID]?.connected;
+        return statesKnown ? byID[stationID]?.connected : undefined;
     }
 
     function childrenByParent(): var {

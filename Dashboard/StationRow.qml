@@ -41,6 +41,9 @@ Item {
     readonly property string detail: supportText === "" ? stateText
                                                         : stateText + " · " + supportText
 
+    /// Whether a text does not fit.
+    readonly property bool truncated: nameLabel.truncated || detailLabel.truncated
+
     signal chosen
     signal filterRequested
 
@@ -95,12 +98,16 @@ Item {
             spacing: 0
 
             PlainLabel {
+                id: nameLabel
+
                 Layout.fillWidth: true
                 text: row.name
                 font.weight: row.focused ? Font.Bold : Font.Normal
             }
 
             PlainLabel {
+                id: detailLabel
+
                 Layout.fillWidth: true
                 text: row.detail
                 font.pixelSize: Theme.smallFont
@@ -113,6 +120,11 @@ Item {
             count: row.errorCount
             onClicked: row.filterRequested()
         }
+    }
+
+    Tip {
+        text: row.name + "\n" + row.detail
+        visible: row.truncated && row.drawn && (mouse.containsMouse || row.current)
     }
 
     RowRing {

@@ -1,12 +1,11 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import QtQuick.Controls.Basic
 import QtQuick.Layouts
 
 /// The stations of the site. Choosing one shows its usage.
 ///
-/// Keys: arrows, Home and End move; Return or Space choose; F shows only the station's errors.
+/// Keys: arrows, Page, Home and End move; Return or Space choose; F shows only the station's errors.
 Panel {
     id: pane
 
@@ -34,46 +33,28 @@ Panel {
             remark: list.count
         }
 
-        ListView {
+        ThemedList {
             id: list
 
             Layout.fillWidth: true
             Layout.fillHeight: true
-            model: pane.directory.rows
-            clip: true
-            cacheBuffer: 0
-            currentIndex: -1
-            highlightMoveDuration: 0
-            boundsBehavior: Flickable.StopAtBounds
-            activeFocusOnTab: true
-            Accessible.role: Accessible.List
+            rows: pane.directory.rows
+            rowHeight: Theme.em(3.5)
+            firstRow: rows.findIndex(row => row.stationID === pane.focusedStation)
             Accessible.name: qsTr("Stations")
 
-            ScrollBar.vertical: ThemedScrollBar {}
-
             function stationAt(row: int): string {
-                return model[row]?.stationID ?? "";
-            }
-
-            onActiveFocusChanged: {
-                if (activeFocus && currentIndex < 0 && count > 0)
-                    currentIndex = Math.max(0, model.findIndex(
-                                                row => row.stationID === pane.focusedStation));
+                return rows[row]?.stationID ?? "";
             }
 
             Keys.onReturnPressed: pane.chosen(stationAt(currentIndex))
             Keys.onEnterPressed: pane.chosen(stationAt(currentIndex))
             Keys.onSpacePressed: pane.chosen(stationAt(currentIndex))
             Keys.onPressed: event => {
-                if (event.key === Qt.Key_Home)
-                    currentIndex = 0;
-                else if (event.key === Qt.Key_End)
-                    currentIndex = count - 1;
-                else if (event.key === Qt.Key_F && event.modifiers === Qt.NoModifier)
+                if (event.key === Qt.Key_F && event.modifiers === Qt.NoModifier) {
                     pane.filterRequested(stationAt(currentIndex));
-                else
-                    return;
-                event.accepted = true;
+                    event.accepted = true;
+                }
             }
 
             delegate: StationRow {
@@ -102,5 +83,9 @@ Panel {
                 color: Theme.mutedText
             }
         }
+    }
+
+    FocusRing {
+        visible: list.activeFocus && list.count === 0
     }
 }

@@ -11,6 +11,9 @@ ListView {
     property var rows: []
     required property real rowHeight
 
+    /// The row that the keyboard is on first.
+    property int firstRow: 0
+
     readonly property int rowsPerPage: Math.max(1, Math.floor(height / rowHeight) - 1)
 
     clip: true
@@ -40,7 +43,7 @@ ListView {
     // The keyboard is always on a row where there is one.
     function takeFirst() {
         if (activeFocus && currentIndex < 0 && count > 0)
-            currentIndex = 0;
+            currentIndex = Math.max(0, Math.min(count - 1, firstRow));
     }
 
     function moveTo(row: int) {

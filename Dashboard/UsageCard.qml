@@ -49,6 +49,9 @@ Item {
     readonly property string detail: bandwidthText === "" ? limitText
                                                           : bandwidthText + " · " + limitText
 
+    /// Whether the name does not fit, not even on two lines.
+    readonly property bool truncated: nameLabel.truncated
+
     implicitHeight: column.implicitHeight
     Accessible.role: Accessible.Chart
     Accessible.name: known ? Format.fill(qsTr("%1: %2, %3", "usage, value, detail"), name,
@@ -74,7 +77,11 @@ Item {
             }
 
             PlainLabel {
+                id: nameLabel
+
                 Layout.fillWidth: true
+                wrapMode: Text.Wrap
+                maximumLineCount: 2
                 text: card.name
             }
 
@@ -112,5 +119,14 @@ Item {
             font.weight: card.over ? Font.DemiBold : Font.Normal
             color: card.over ? Theme.warning : Theme.mutedText
         }
+    }
+
+    HoverHandler {
+        id: hover
+    }
+
+    Tip {
+        text: card.name
+        visible: card.truncated && hover.hovered
     }
 }

@@ -69,6 +69,7 @@ Rectangle {
         spacing: 12
 
         Label {
+            textFormat: Text.PlainText
             text: page.serverConnected ? page.siteName : page.siteName + ": server lost"
             font.bold: true
         }
@@ -78,8 +79,14 @@ Rectangle {
             model: page.surface.stationErrorList
 
             Button {
+                id: station
+
                 required property var modelData
 
+                contentItem: Label {
+                    textFormat: Text.PlainText
+                    text: station.text
+                }
                 text: modelData.stationID + ": " + modelData.errorNumber
                 onClicked: page.surface.focusStationResource = modelData.stationID
             }
@@ -114,6 +121,7 @@ Rectangle {
                 required property var usageListRole
 
                 objectName: "usage"
+                textFormat: Text.PlainText
                 text: titleRole + " " + subtitleRole + " "
                       + Math.round(usageListRole[usageListRole.length - 1]) + "%"
             }

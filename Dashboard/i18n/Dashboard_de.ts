@@ -16,6 +16,14 @@
         <source>Dismiss the warning</source>
         <translation>Warnung ausblenden</translation>
     </message>
+    <message numerus="yes">
+        <source>and %n more server(s)</source>
+        <comment>near their capacity</comment>
+        <translation>
+            <numerusform>und ein weiterer Server</numerusform>
+            <numerusform>und %n weitere Server</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ClientPanel</name>
@@ -240,6 +248,10 @@
         <source>Device ID</source>
         <translation>Geräte-ID</translation>
     </message>
+    <message>
+        <source>unknown</source>
+        <translation>unbekannt</translation>
+    </message>
 </context>
 <context>
     <name>ErrorTable</name>
@@ -313,12 +325,16 @@
         <translation>Esc zeigt wieder alle Fehler.</translation>
     </message>
     <message>
-        <source>The server has just been connected; the state of the devices follows.</source>
-        <translation>Der Server ist gerade erst verbunden; der Zustand der Geräte folgt.</translation>
-    </message>
-    <message>
         <source>All is well: no camera, station or volume reports an error.</source>
         <translation>Alles in Ordnung: Keine Kamera, keine Station und kein Datenträger meldet einen Fehler.</translation>
+    </message>
+    <message>
+        <source>The states of the devices have just come.</source>
+        <translation>Die Zustände der Geräte sind gerade erst eingetroffen.</translation>
+    </message>
+    <message>
+        <source>The states of the devices are not known yet.</source>
+        <translation>Die Zustände der Geräte sind noch nicht bekannt.</translation>
     </message>
 </context>
 <context>

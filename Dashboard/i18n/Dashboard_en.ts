@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en_US">
 <context>
+    <name>CapacityBanner</name>
+    <message numerus="yes">
+        <source>and %n more server(s)</source>
+        <comment>near their capacity</comment>
+        <translation>
+            <numerusform>and %n more server</numerusform>
+            <numerusform>and %n more servers</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>ErrorActionBar</name>
     <message numerus="yes">
         <source>%n selected</source>

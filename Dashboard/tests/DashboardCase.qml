@@ -34,6 +34,8 @@ TestCase {
         failOnWarning(/.?/);
         Clock.running = false;
         Clock.now = now;
+        Clock.serverRate = 1;
+        Clock.serverOffset = 0;
         Theme.dark = true;
     }
 
@@ -50,6 +52,12 @@ TestCase {
     function spyOn(target: QtObject, signalName: string): SignalSpy {
         return createTemporaryObject(spyComponent, test,
                                      { "target": target, "signalName": signalName });
+    }
+
+    /// Lets the server's clock show @p milliseconds now, and run @p rate times as fast.
+    function setServerTime(milliseconds: real, rate: real) {
+        Clock.serverRate = rate;
+        Clock.serverOffset = milliseconds - Clock.now * rate;
     }
 
     /// The items below @p item, itself included, that @p accepts.
@@ -82,6 +90,16 @@ TestCase {
 
     function hasText(item: Item, text: string): bool {
         return texts(item).includes(text);
+    }
+
+    /// The texts of the hints that are shown.
+    function tipTexts(): var {
+        let top = parent;
+        while (top.parent)
+            top = top.parent;
+        return itemsWhere(top, item => item.visible && item instanceof Text
+                                       && String(item.parent).startsWith("QQuickPopupItem")).map(
+                    text => text.text);
     }
 
     /// Clicks the item with an accessible name, anywhere in the window.

@@ -32,6 +32,8 @@ struct Scene
     bool connected = true;
     /// Whether every station is connected.
     bool well = false;
+    /// Whether the host knows the states of the stations and cameras.
+    bool statesKnown = true;
     /// Whether the host offers the operational log and the server's snoozes.
     bool offers = true;
     /// What happens before the picture is taken.
@@ -40,6 +42,12 @@ struct Scene
 
 /// Of the pictures: quick to save, and still small.
 constexpr int LightCompression = 80;
+
+/// What the dashboard needs to take over a list of snoozes.
+constexpr int SettlingMs = 150;
+
+/// After which a hint is there.
+constexpr int HintDelayMs = 800;
 
 bool warned = false;
 
@@ -60,6 +68,15 @@ void fillAndWarn(QQuickView &view, FakePlugin &plugin)
 {
     fill(view, plugin);
     Q_EMIT plugin.notifyServerReachingLimited(QStringLiteral("Recording server 2"), 93.4);
+}
+
+void fillAndWarnOfMany(QQuickView &view, FakePlugin &plugin)
+{
+    fill(view, plugin);
+    for (int i = 1; i <= 9; ++i)
+        Q_EMIT plugin.notifyServerReachingLimited(QStringLiteral("Recording server %1").arg(i),
+                                                  90.0 + i);
+    QTest::keyClick(&view, Qt::Key_Down);
 }
 
 void fillAndFilterAway(QQuickView &view, FakePlugin &plugin)
@@ -84,6 +101,18 @@ void fillAndOpenMenu(QQuickView &view, FakePlugin &plugin)
     fillAndSelect(view, plugin);
     QTest::keyClick(&view, Qt::Key_S);
     QTest::keyClick(&view, Qt::Key_Down);
+}
+
+void fillAndRestOnALongName(QQuickView &view, FakePlugin &plugin)
+{
+    fill(view, plugin);
+    plugin.addError(3, QStringLiteral("quay"), QStringLiteral("quay/long"),
+                    {QStringLiteral("Quay NVR"),
+                     QStringLiteral("Berth 12, behind the second crane, looking at the gate")},
+                    SampleSite::now() - 500);
+    QTest::keyClick(&view, Qt::Key_Down);
+    QTest::keyClick(&view, Qt::Key_Home);
+    QTest::qWait(HintDelayMs);
 }
 
 void fillAndAskMoment(QQuickView &view, FakePlugin &plugin)
@@ -139,6 +168,7 @@ void fillAndShowSnoozes(QQuickView &view, FakePlugin &plugin)
     turnTo(view, "snoozed");
     if (view.rootObject()->property("snoozes").isValid()) {
         view.rootObject()->setProperty("snoozes", SampleSite::snoozes(5));
+        QTest::qWait(SettlingMs);
         view.rootObject()->setProperty("snoozes", SampleSite::snoozes(4));
         SampleSite::endSnooze(plugin);
     }
@@ -220,7 +250,20 @@ QList<Scene> scenes()
         {.name = QStringLiteral("well"),
          .well = true,
          .act = [](QQuickView &, FakePlugin &plugin) { SampleSite::fillClient(plugin); }},
+        {.name = QStringLiteral("states-unknown"), .well = true, .statesKnown = false},
+        {.name = QStringLiteral("states-unknown-german-light"),
+         .dark = false,
+         .language = QStringLiteral("de"),
+         .well = true,
+         .statesKnown = false},
+        {.name = QStringLiteral("many-warnings"), .act = fillAndWarnOfMany},
+        {.name = QStringLiteral("many-warnings-german-light"),
+         .dark = false,
+         .language = QStringLiteral("de"),
+         .act = fillAndWarnOfMany},
         {.name = QStringLiteral("filtered"), .act = fillAndFilterAway},
+        {.name = QStringLiteral("hint"), .act = fillAndRestOnALongName},
+        {.name = QStringLiteral("hint-light"), .dark = false, .act = fillAndRestOnALongName},
         {.name = QStringLiteral("menu"), .act = fillAndOpenMenu},
         {.name = QStringLiteral("moment"), .act = fillAndAskMoment},
         {.name = QStringLiteral("notice"), .dark = false, .act = fillAndSnooze},
@@ -309,6 +352,10 @@ bool draw(const Scene &scene, const QDir &folder)
         {QStringLiteral("stations"), SampleSite::stations(scene.well)},
         {QStringLiteral("files"), QVariant::fromValue<QObject *>(&files)},
     };
+    if (scene.statesKnown) {
+        properties.insert(QStringLiteral("statesSince"),
+                          QDateTime::fromMSecsSinceEpoch(SampleSite::now() - 5 * 60 * 1000));
+    }
     if (scene.offers) {
         properties.insert(QStringLiteral("operationalLog"), QVariant::fromValue<QObject *>(&log));
         properties.insert(QStringLiteral("snoozes"), QVariantList());

@@ -60,6 +60,35 @@ Item {
             compare(texts(banner), ["Main has reached 94% of its capacity"]);
         }
 
+        function test_theFullestServersHaveALineAndTheOthersOneTogether() {
+            prepare();
+            for (let i = 1; i <= 5; ++i)
+                plugin.notifyServerReachingLimited("S" + i, 90 + i);
+            compare(texts(banner), ["S5 has reached 95% of its capacity",
+                                    "S4 has reached 94% of its capacity",
+                                    "S3 has reached 93% of its capacity",
+                                    "and 2 more server(s)"]);
+            const height = banner.height;
+            for (let i = 6; i <= 100; ++i)
+                plugin.notifyServerReachingLimited("S" + i, 50);
+            verify(hasText(banner, "and 97 more server(s)"));
+            compare(banner.height, height);
+        }
+
+        function test_theOthersAreDismissedTogether() {
+            prepare();
+            for (let i = 1; i <= 5; ++i)
+                plugin.notifyServerReachingLimited("S" + i, 90 + i);
+            const buttons = itemsWhere(banner, item => item instanceof ActionButton && item.visible);
+            mouseClick(buttons[3]);
+            compare(texts(banner).length, 3);
+            plugin.notifyServerReachingLimited("S2", 92);
+            compare(texts(banner).length, 3);
+            banner.dismiss(["S5"]);
+            compare(texts(banner), ["S4 has reached 94% of its capacity",
+                                    "S3 has reached 93% of its capacity"]);
+        }
+
         function test_dismissedByKeyboard() {
             prepare();
             plugin.notifyServerReachingLimited("Main", 93);

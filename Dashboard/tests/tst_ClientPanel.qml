@@ -61,6 +61,15 @@ Item {
             compare(values(), ["58%", "43%"]);
         }
 
+        function test_noMemoryAtAllInUseIsAFailedSample() {
+            prepare();
+            plugin.clientResourceChanged(0, 0);
+            compare(values(), ["0%", "unknown"]);
+            plugin.clientResourceChanged(1, 1);
+            compare(values(), ["1%", "1%"]);
+            compare([panel.history.cpu, panel.history.memory], [[0, 1], [null, 1]]);
+        }
+
         function test_keepsFiveMinutes() {
             prepare();
             for (let i = 0; i < 310; ++i)

@@ -24,6 +24,7 @@ Item {
         DashboardView {
             siteName: "Harbour"
             serverConnected: true
+            statesSince: new Date(2024, 4, 14)
             stations: [
                 { "stationID": "a", "name": "Lobby", "parentID": "", "connected": true },
                 { "stationID": "b", "name": "Quay", "parentID": "", "connected": true }
@@ -120,7 +121,19 @@ Item {
                 item.forceActiveFocus(Qt.TabFocusReason);
                 const marks = itemsWhere(view, mark => mark.visible && (mark instanceof FocusRing
                                                                         || mark instanceof RowRing));
-                verify(marks.length === 1 || item instanceof ListView, item.Accessible.name);
+                compare(marks.length, 1, item.Accessible.name);
+            }
+        }
+
+        function test_focusIsSeenOnEmptyLists() {
+            prepare({ "stations": [] });
+            plugin.clearErrors();
+            plugin.countErrors();
+            tryCompare(pane(ErrorTable), "count", 0);
+            for (const type of [ErrorTable, ThemedList]) {
+                pane(type).forceActiveFocus(Qt.TabFocusReason);
+                tryVerify(() => itemsWhere(view, mark => mark.visible
+                                                         && mark instanceof FocusRing).length === 1);
             }
         }
 
@@ -299,6 +312,23 @@ Item {
             verify(!hasText(view, "Connected"));
         }
 
+        function test_nothingAtTheSiteIsGreenBeforeTheStatesAreKnown() {
+            prepare({ "statesSince": undefined, "connectionSince": new Date(now - hour) });
+            plugin.clearErrors();
+            plugin.countErrors();
+            verify(inWindow("Quay, State unknown, 0 error(s)"));
+            tryVerify(() => inWindow("Checking the site") !== null);
+            const good = () => itemsWhere(view, item => item instanceof StateMark && item.visible
+                                                        && item.status === "good").length;
+            compare(good(), 1);
+            verify(hasText(pane(ErrorsPane), "unknown"));
+            view.statesSince = new Date(now - minute);
+            tryVerify(() => inWindow("No errors") !== null);
+            compare(good(), 4);
+            view.statesSince = new Date(NaN);
+            compare(good(), 1);
+        }
+
         function test_capacityWarningPushesThePageDown() {
             prepare();
             const before = pane(ErrorsPane).mapToItem(view, 0, 0).y;
@@ -306,6 +336,13 @@ Item {
             tryVerify(() => pane(ErrorsPane).mapToItem(view, 0, 0).y > before);
             click("Dismiss the warning");
             tryVerify(() => pane(ErrorsPane).mapToItem(view, 0, 0).y === before);
+        }
+
+        function test_theServersTimeIsTheHostsWord() {
+            prepare({ "serverRate": 60, "serverOffset": now + hour - now * 60 });
+            compare(Clock.serverNow, now + hour);
+            view.serverOffset += hour;
+            compare(Clock.serverNow, now + 2 * hour);
         }
 
         function test_anInvalidDateIsNoDate() {

@@ -8,6 +8,7 @@ Item {
     StationDirectory {
         id: stations
 
+        statesKnown: true
         stations: [{ "stationID": "st1", "name": "Lobby", "parentID": "", "connected": true }]
     }
 
@@ -62,10 +63,10 @@ Item {
             compare(sheet.rows(now)[1][4], "2024-01-05 10:00:00 CET");
         }
 
-        function test_whatIsMissingStaysEmpty() {
+        function test_whatIsMissingStaysEmptyButAnAgeIsUnknown() {
             prepare();
             plugin.addBareError("9_x");
-            compare(sheet.rows(now)[1].map(field => field ?? ""), ["", "", "", "", "", "", ""]);
+            compare(sheet.rows(now)[1].map(field => field ?? ""), ["", "", "", "unknown", "", "", ""]);
         }
 
         function test_withoutAProxyThereAreHeadingsOnly() {

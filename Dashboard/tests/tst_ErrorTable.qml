@@ -11,6 +11,7 @@ Item {
     StationDirectory {
         id: stations
 
+        statesKnown: true
         stations: [{ "stationID": "s", "name": "Lobby", "parentID": "", "connected": true }]
     }
 
@@ -280,6 +281,19 @@ Item {
             mouseMove(rowAt(0), 300, 5);
             tryCompare(table, "hoveredRow", rowAt(0));
             verify(!rowAt(1).truncated);
+        }
+
+        function test_theKeyboardTellsWhatDoesNotFitToo() {
+            prepare();
+            const name = "A very long name of a door ".repeat(5);
+            plugin.addError(3, "s", "s/x", ["Lobby", name], now + second);
+            tryVerify(() => rowAt(0).truncated);
+            mouseMove(root, 0, root.height - 1);
+            table.forceActiveFocus(Qt.TabFocusReason);
+            keyClick(Qt.Key_Home);
+            tryVerify(() => tipTexts().some(text => text.includes(name)));
+            keyClick(Qt.Key_Down);
+            tryVerify(() => tipTexts().length === 0);
         }
 
         function test_drawingsScrolledOutOfSightAreHidden() {

@@ -12,6 +12,7 @@ Item {
     StationDirectory {
         id: stations
 
+        statesKnown: true
         stations: [
             { "stationID": "st1", "name": "Lobby", "parentID": "", "connected": true },
             { "stationID": "st10", "name": "Quay", "parentID": "", "connected": true },
@@ -52,7 +53,9 @@ Item {
             plugin.addError(3, "st10", "st10/c2", ["Quay", "Gate+2"], now - minute);
             plugin.addError(4, "st2", "", ["Parking"], now - hour);
             plugin.addError(0, "st1", "", ["Lobby"], now - 2 * hour);
-            pane = make(paneComponent, Object.assign({ "surface": plugin }, properties ?? {}));
+            pane = make(paneComponent, Object.assign({
+                "surface": plugin, "statesSince": new Date(now - hour)
+            }, properties ?? {}));
             waitForRendering(pane);
             pane.focusList();
         }
@@ -166,7 +169,7 @@ Item {
             typeText("doo");
             pane.filters.clear();
             compare(inWindow("Filter by error or device").text, "");
-            wait(200);
+            compare(inWindow("Filter by error or device").waiting, false);
             compare(pane.filters.text, "");
         }
 
@@ -191,6 +194,36 @@ Item {
             tryVerify(() => inWindow("Checking the site") !== null);
             Clock.now = now + 8 * second;
             tryVerify(() => inWindow("No errors") !== null);
+        }
+
+        function test_nothingIsCalledWellWhileTheStatesAreUnknown() {
+            prepare({ "connectionSince": new Date(now - hour), "statesSince": undefined });
+            plugin.clearErrors();
+            tryVerify(() => inWindow("Checking the site") !== null);
+            compare(inWindow("Checking the site").status, "unknown");
+            compare(inWindow("Checking the site").Accessible.description,
+                    "The states of the devices are not known yet.");
+            Clock.now = now + hour;
+            pane.statesSince = new Date(now + hour);
+            compare(inWindow("Checking the site").Accessible.description,
+                    "The states of the devices have just come.");
+            Clock.now += 11 * second;
+            tryVerify(() => inWindow("No errors") !== null);
+        }
+
+        function test_theChosenStationStaysNamedWhenItIsGone() {
+            prepare();
+            pane.filters.stationID = "st9";
+            compare(inWindow("Station").displayText, "st9");
+            pane.filters.stationID = "st2";
+            compare(inWindow("Station").displayText, "Parking");
+            const before = stations.stations;
+            stations.stations = before.slice(0, 2);
+            compare(inWindow("Station").displayText, "st2");
+            stations.stations = before;
+            compare(inWindow("Station").displayText, "Parking");
+            pane.filters.clear();
+            compare(inWindow("Station").displayText, "All stations");
         }
 
         function test_aFilterThatHidesAllSaysHowMany() {
@@ -250,6 +283,19 @@ Item {
             const end = now / 1000 + data.seconds;
             compare(plugin.calls, ["setSnooze st1/c1 " + end + " 3",
                                    "setSnooze st10/c2 " + end + " 3", "setSnooze st2 " + end + " 4"]);
+        }
+
+        function test_snoozesEndInTheServersTime() {
+            prepare();
+            setServerTime(now + 10 * hour, 60);
+            Clock.now += second;
+            pane.selection.selectOnly(0);
+            pane.snoozeFor(900);
+            compare(plugin.calls, ["setSnooze st1/c1 " + (now / 1000 + 36000 + 60 + 900) + " 3"]);
+            pane.askSnoozeMoment();
+            tryVerify(() => inWindow("Hour") !== null);
+            compare([inWindow("Day").value, inWindow("Hour").value], [15, 2]);
+            keyClick(Qt.Key_Escape);
         }
 
         function test_tellsWhichNodesAreToBeSnoozed() {
@@ -360,6 +406,15 @@ Item {
                 "2024-05-14 13:07:33 CEST\tStation disconnected\tStation: Parking\tst2\t"
             ]);
             compare(notices.signalArguments[0][1], "2 error(s) copied");
+        }
+
+        function test_copiesThroughTheHostWhereItCan() {
+            let content = "";
+            prepare({ "clipboard": { "put": text => content = text } });
+            pane.selection.selectOnly(2);
+            keyClick(Qt.Key_C, Qt.ControlModifier);
+            compare(content, "2024-05-14 13:07:33 CEST\tStation disconnected\tStation: Parking"
+                             + "\tst2\t");
         }
 
         function test_copyingNothingLeavesTheClipboard() {

@@ -63,6 +63,11 @@ Item {
             tryCompare(dialog, "visible", false);
         }
 
+        function test_tellsWhatItIs() {
+            prepare();
+            compare(inWindow("Export as CSV").Accessible.role, Accessible.Dialog);
+        }
+
         function test_savesWhereTheUserWants() {
             prepare();
             typeOver("/tmp/x.csv");

@@ -11,6 +11,7 @@ Item {
     StationDirectory {
         id: stations
 
+        statesKnown: true
         stations: [{ "stationID": "a", "name": "Lobby", "parentID": "", "connected": true }]
     }
 
@@ -18,6 +19,7 @@ Item {
         id: answers
 
         surface: null
+        directory: stations
         serverConnected: true
     }
 

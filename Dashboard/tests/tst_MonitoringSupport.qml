@@ -3,11 +3,18 @@ import QtTest
 import Dashboard
 
 Item {
+    StationDirectory {
+        id: stations
+
+        statesKnown: true
+    }
+
     Component {
         id: supportComponent
 
         MonitoringSupport {
             surface: null
+            directory: stations
         }
     }
 
@@ -16,6 +23,15 @@ Item {
 
         property var plugin
         property MonitoringSupport support
+
+        function station(connected) {
+            return { "stationID": "a", "name": "", "parentID": "", "connected": connected };
+        }
+
+        function cleanup() {
+            stations.statesKnown = true;
+            stations.stations = [];
+        }
 
         function prepare(connected) {
             plugin = makePlugin();
@@ -56,6 +72,42 @@ Item {
             plugin.isSupportSystemMonitor("a", true);
             compare(support.answerOf("a"), true);
             support.serverConnected = false;
+            compare(support.answerOf("a"), undefined);
+        }
+
+        function test_asksAStationThatIsAwayWhenItIsBack() {
+            stations.stations = [station(false)];
+            prepare(true);
+            support.ask("a");
+            compare(plugin.calls, []);
+            const revisions = spyOn(support, "revisionChanged");
+            stations.stations = [station(true)];
+            compare(revisions.count, 1);
+            support.ask("a");
+            compare(plugin.calls.length, 1);
+        }
+
+        function test_forgetsTheAnswerOfAStationThatIsBack() {
+            stations.stations = [station(true)];
+            prepare(true);
+            plugin.isSupportSystemMonitor("a", false);
+            stations.stations = [station(true)];
+            compare(support.answerOf("a"), false);
+            stations.stations = [station(false)];
+            compare(support.answerOf("a"), false);
+            stations.stations = [station(true)];
+            compare(support.answerOf("a"), undefined);
+            support.ask("a");
+            compare(plugin.calls.length, 1);
+        }
+
+        function test_forgetsWhatWasAnsweredBeforeTheStatesWereKnown() {
+            stations.statesKnown = false;
+            stations.stations = [station(true)];
+            prepare(true);
+            support.ask("a");
+            plugin.isSupportSystemMonitor("a", false);
+            stations.statesKnown = true;
             compare(support.answerOf("a"), undefined);
         }
 

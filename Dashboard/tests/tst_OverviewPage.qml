@@ -11,6 +11,7 @@ Item {
     StationDirectory {
         id: stations
 
+        statesKnown: true
         stations: [
             { "stationID": "a", "name": "Lobby", "parentID": "", "connected": true },
             { "stationID": "b", "name": "Quay", "parentID": "", "connected": true }

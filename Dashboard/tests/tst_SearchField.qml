@@ -32,6 +32,7 @@ Item {
             keyClick("d");
             keyClick("o");
             compare(field.applied, "");
+            compare(field.waiting, true);
             tryCompare(field, "applied", "do");
         }
 
@@ -47,7 +48,7 @@ Item {
             keyClick("d");
             field.applied = "gate";
             compare(field.text, "gate");
-            wait(200);
+            compare(field.waiting, false);
             compare(field.applied, "gate");
         }
 
@@ -56,7 +57,7 @@ Item {
             keyClick("d");
             field.reset();
             compare(field.text, "");
-            wait(200);
+            compare(field.waiting, false);
             compare(field.applied, "");
         }
     }

@@ -138,6 +138,16 @@ Item {
             compare(book.rows[0].until, end + minute);
         }
 
+        function test_aFastServerLeavesTheUserAsMuchTime() {
+            setServerTime(now, 60);
+            prepare();
+            ask();
+            Clock.now = now + 30 * second;
+            compare(states(), ["asked"]);
+            Clock.now = now + 31 * second;
+            compare(states(), []);
+        }
+
         function test_otherErrorsAreNoSnoozes() {
             prepare();
             clear();
@@ -184,6 +194,26 @@ Item {
             compare(states(), ["failing"]);
         }
 
+        function test_whatLeavesTheServersListLateHasEndedInTime() {
+            prepare([snooze()]);
+            states();
+            clear();
+            raise();
+            Clock.now = end + minute;
+            book.serverList = [];
+            compare(states(), ["failing"]);
+            compare(book.rows[0].endedAt, end);
+        }
+
+        function test_whatLeavesTheServersListEarlyEndsThere() {
+            prepare([snooze()]);
+            states();
+            raise();
+            book.serverList = [];
+            compare(states(), ["failing"]);
+            compare(book.rows[0].endedAt, now);
+        }
+
         function test_theErrorMayBeBackBeforeTheListTells() {
             prepare([snooze()]);
             clear();
@@ -217,6 +247,33 @@ Item {
             plugin.clearErrors();
             tryCompare(book, "snoozedCount", 5000);
             compare(changes.count, 1);
+        }
+
+        function test_thousandsThatTheServerTellsOneByOneAreTakenOverOnce() {
+            prepare([]);
+            states();
+            plugin.addCameraErrors(2000, now);
+            const changes = spyOn(book, "rowsChanged");
+            const list = [];
+            for (let i = 0; i < 2000; ++i) {
+                list.push(snooze({ "nodeID": "st" + i % 10 + "/cam" + i }));
+                book.serverList = list.slice();
+            }
+            compare(book.entryCount, 0);
+            plugin.clearErrors();
+            tryCompare(book, "snoozedCount", 2000);
+            compare(changes.count, 1);
+        }
+
+        function test_anErrorThatComesBackWhileTheListWaitsIsSeen() {
+            prepare([]);
+            states();
+            book.serverList = [snooze()];
+            clear();
+            raise();
+            compare(states(), ["snoozed"]);
+            book.serverList = [];
+            compare(states(), ["failing"]);
         }
     }
 }

@@ -87,6 +87,20 @@ Item {
             compare(requests.summary, "The server refused 1 snooze(s)");
         }
 
+        function test_whatIsLostWithTheServerIsNotCalledRefused() {
+            prepare();
+            requests.send(nodes, 1);
+            plugin.setSnoozeResponse(true);
+            requests.serverConnected = false;
+            plugin.setSnoozeResponse(false);
+            compare(requests.summary, "1 error(s) snoozed · No answer to 1 snooze(s)");
+            compare(requests.status, "critical");
+            requests.serverConnected = true;
+            requests.send([nodes[0]], 1);
+            plugin.setSnoozeResponse(true);
+            compare(requests.summary, "1 error(s) snoozed");
+        }
+
         function test_missingAnswersAreTold() {
             prepare();
             requests.patience.interval = 1;

@@ -30,6 +30,20 @@ Item {
             dialog = null;
         }
 
+        function test_tellsWhatItIs() {
+            prepare(2024, 5, 14, 16, 0);
+            compare(inWindow("Snooze until").Accessible.role, Accessible.Dialog);
+        }
+
+        function test_comparesWithTheServersTime() {
+            prepare(2024, 5, 14, 16, 0);
+            setServerTime(now + hour, 1);
+            compare(dialog.valid, true);
+            verify(hasText(inWindow("Snooze until"), "2024-05-14 16:00:00 CEST, in 52 min"));
+            setServerTime(now + 2 * hour, 1);
+            compare(dialog.valid, false);
+        }
+
         function test_startsOnTheHour() {
             prepare(2024, 5, 14, 16, 0);
             compare(inWindow("Hour").activeFocus, true);

@@ -11,6 +11,7 @@ Item {
     StationDirectory {
         id: stations
 
+        statesKnown: true
         stations: [{ "stationID": "st1", "name": "Lobby", "parentID": "", "connected": true }]
     }
 
@@ -71,6 +72,16 @@ Item {
             verify(hasText(page, "2"));
         }
 
+        function test_countsDownInTheServersTime() {
+            prepare([snooze("st1/c1", 3, now + 2 * hour)]);
+            setServerTime(now + hour, 60);
+            verify(hasText(page, "1 h 0 min left"));
+            Clock.now += 2 * second;
+            verify(hasText(page, "58 min left"));
+            Clock.now += 58 * second;
+            verify(hasText(page, "due"));
+        }
+
         function test_tellsWhenItWasAskedFor() {
             prepare();
             raise();
@@ -127,6 +138,13 @@ Item {
             tryVerify(() => inWindow("No snooze is known") !== null);
         }
 
+        function test_namesThatDoNotFitAreToldToTheKeyboard() {
+            const name = "A very long name of a door ".repeat(5);
+            prepare([Object.assign(snooze("st1/c1", 3, now + hour), { "name": name })]);
+            itemsWhere(page, item => item instanceof ThemedList)[0].forceActiveFocus();
+            tryVerify(() => tipTexts().some(text => text.includes(name)));
+        }
+
         function test_narrowRowsKeepTheStation() {
             prepare([snooze("st1/c1", 3, now + hour)]);
             verify(hasText(page, "Camera disconnected"));
@@ -156,7 +174,7 @@ Item {
             list.forceActiveFocus();
             for (let i = 0; i < 5; ++i)
                 keyClick(Qt.Key_PageDown);
-            tryVerify(() => list.contentY > 0);
+            tryVerify(() => list.currentItem?.y + list.rowHeight <= list.contentY + list.height);
             const top = list.contentY;
             const row = list.currentIndex;
             compare(row, 5 * list.rowsPerPage);

@@ -6,7 +6,9 @@ Item {
     Component {
         id: directoryComponent
 
-        StationDirectory {}
+        StationDirectory {
+            statesKnown: true
+        }
     }
 
     DashboardCase {
@@ -26,6 +28,16 @@ Item {
                 "stations": [station("b/x", "b"), station("a"), station("b"), station("b/x/1", "b/x")]
             });
             compare(ids(directory), ["a", "b", "-b/x", "--b/x/1"]);
+        }
+
+        function test_statesAreUnknownUntilTheHostKnowsThem() {
+            const directory = make(directoryComponent, {
+                "stations": [station("a"), station("b", "", false)], "statesKnown": false
+            });
+            compare(["a", "b", "c"].map(id => directory.isConnected(id)),
+                    [undefined, undefined, undefined]);
+            directory.statesKnown = true;
+            compare(["a", "b", "c"].map(id => directory.isConnected(id)), [true, false, undefined]);
         }
 
         function test_stationsWithErrorsThatTheHostDoesNotListAreAppended() {

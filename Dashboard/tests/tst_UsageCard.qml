@@ -40,6 +40,15 @@ Item {
             verify(!hasWarning(card));
         }
 
+        function test_aNameThatDoesNotFitIsTold() {
+            const card = make(cardComponent, { "subtitleRole": "eth0" });
+            verify(!card.truncated);
+            card.subtitleRole = "a bridge of interfaces ".repeat(5);
+            tryVerify(() => card.truncated);
+            mouseMove(card, 20, 10);
+            tryVerify(() => tipTexts().includes(card.name));
+        }
+
         function test_atTheThresholdItWarns_data() {
             return [
                 { "tag": "below", "value": 89, "over": false },

@@ -6,6 +6,8 @@
 #include "ServerNames.h"
 #include "StationList.h"
 
+#include <QDateTime>
+
 namespace {
 
 bool tellsOfSnoozes(const QString &event)
@@ -23,6 +25,7 @@ DashboardFeed::DashboardFeed(const ServerLink &link, DashboardWindow &window, QO
 {
     connect(&link, &ServerLink::opened, this, &DashboardFeed::showConnection);
     connect(&link, &ServerLink::closed, this, &DashboardFeed::showConnection);
+    connect(&link, &ServerLink::closed, this, [this] { takeStates(false); });
     connect(&link, &ServerLink::opened, this, &DashboardFeed::showStations);
     connect(&link, &ServerLink::opened, this, &DashboardFeed::showSnoozes);
     connect(&link, &ServerLink::eventRaised, this, [this](const QString &name) {
@@ -35,6 +38,11 @@ DashboardFeed::DashboardFeed(const ServerLink &link, DashboardWindow &window, QO
             showStations();
     });
     showConnection();
+}
+
+void DashboardFeed::takeStates(bool areKnown)
+{
+    m_window.setStatesSince(areKnown ? QDateTime::currentDateTime() : QDateTime());
 }
 
 void DashboardFeed::showConnection()

@@ -16,6 +16,10 @@ public:
     /// @param link must outlive the feed, as must the window
     DashboardFeed(const ServerLink &link, DashboardWindow &window, QObject *parent = nullptr);
 
+    /// The states of all nodes have been fetched, or that failed. They are known until the
+    /// connection is lost.
+    void takeStates(bool areKnown);
+
 private:
     void showConnection();
     void showStations();

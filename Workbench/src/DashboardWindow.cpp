@@ -84,6 +84,7 @@ DashboardWindow::DashboardWindow(QQmlEngine &engine, QObject &plugin, const QStr
     setSource(source);
     if (status() != QQuickView::Ready)
         refuse(source, errors());
+    rootObject()->setProperty("clipboard", QVariant::fromValue<QObject *>(&m_clipboard));
     QQmlProperty(rootObject(), QStringLiteral("dark"))
         .connectNotifySignal(this, SLOT(announceDark()));
 }
@@ -92,6 +93,18 @@ void DashboardWindow::setConnection(bool isConnected, const QDateTime &since)
 {
     rootObject()->setProperty("connectionSince", since);
     rootObject()->setProperty("serverConnected", isConnected);
+}
+
+void DashboardWindow::setServerTime(qint64 nowMs, double rate)
+{
+    const auto realMs = static_cast<double>(QDateTime::currentMSecsSinceEpoch());
+    rootObject()->setProperty("serverRate", rate);
+    rootObject()->setProperty("serverOffset", static_cast<double>(nowMs) - realMs * rate);
+}
+
+void DashboardWindow::setStatesSince(const QDateTime &since)
+{
+    rootObject()->setProperty("statesSince", since.isValid() ? QVariant(since) : QVariant());
 }
 
 void DashboardWindow::setStations(const QVariantList &stations)

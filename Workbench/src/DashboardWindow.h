@@ -1,6 +1,8 @@
 #ifndef DASHBOARDWINDOW_H
 #define DASHBOARDWINDOW_H
 
+#include "SystemClipboard.h"
+
 #include <QQuickView>
 #include <QUrl>
 #include <QVariantList>
@@ -33,6 +35,14 @@ public:
     /// Tells the dashboard whether the server is connected, and since when that is so.
     void setConnection(bool isConnected, const QDateTime &since);
 
+    /// Tells the dashboard that the server's clock shows a time now, in milliseconds since the
+    /// epoch, and how many seconds pass on it in a real one.
+    void setServerTime(qint64 nowMs, double rate);
+
+    /// Tells the dashboard since when the states of all nodes have been known; a null date when
+    /// they are not.
+    void setStatesSince(const QDateTime &since);
+
     /// Tells the dashboard of the stations, as stationList() gives them.
     void setStations(const QVariantList &stations);
 
@@ -58,6 +68,9 @@ Q_SIGNALS:
 
 private Q_SLOTS:
     void announceDark();
+
+private:
+    SystemClipboard m_clipboard;
 };
 
 #endif

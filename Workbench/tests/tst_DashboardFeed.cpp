@@ -22,6 +22,8 @@ private Q_SLOTS:
 
     void showsTheConnectionAtOnce();
     void followsTheConnection();
+    void statesAreKnownUntilTheConnectionIsLost();
+    void statesThatCouldNotBeFetchedAreUnknown();
     void followsTheStations();
     void stationsStayAsLastKnown();
     void followsTheSnoozes();
@@ -113,6 +115,26 @@ void tst_DashboardFeed::followsTheConnection()
     m_link->close();
     QCOMPARE(shown("serverConnected").toBool(), false);
     QCOMPARE(shown("connectionSince").toDateTime(), m_link->since());
+}
+
+void tst_DashboardFeed::statesAreKnownUntilTheConnectionIsLost()
+{
+    m_link->open();
+    QVERIFY(!shown("statesSince").isValid());
+    m_feed->takeStates(true);
+    QVERIFY(shown("statesSince").toDateTime().isValid());
+    m_link->close();
+    QVERIFY(!shown("statesSince").isValid());
+    m_link->open();
+    QVERIFY(!shown("statesSince").isValid());
+}
+
+void tst_DashboardFeed::statesThatCouldNotBeFetchedAreUnknown()
+{
+    m_link->open();
+    m_feed->takeStates(true);
+    m_feed->takeStates(false);
+    QVERIFY(!shown("statesSince").isValid());
 }
 
 void tst_DashboardFeed::followsTheStations()

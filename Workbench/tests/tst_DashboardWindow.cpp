@@ -30,9 +30,11 @@ private Q_SLOTS:
     void handsOverPluginAndSite();
     void dashboardFillsTheWindow();
     void tellsOfTheConnection();
+    void tellsTheServersTime();
     void tellsOfTheStations();
     void tellsOfTheSnoozes();
     void handsOverWhatWritesFiles();
+    void handsOverTheClipboard();
     void handsOverWhatReadsTheLog();
     void coloursAreSetAndHeardOf();
     void savesWhatIsShown();
@@ -78,6 +80,22 @@ void tst_DashboardWindow::tellsOfTheConnection()
     QCOMPARE(window.rootObject()->property("serverConnected").toBool(), false);
 }
 
+void tst_DashboardWindow::tellsTheServersTime()
+{
+    QQmlEngine engine;
+    QObject plugin;
+    DashboardWindow window(engine, plugin, {}, testFile(QStringLiteral("Dashboard.qml")));
+    const qint64 serverMs = 1'780'660'800'000;
+    const qint64 before = QDateTime::currentMSecsSinceEpoch();
+    window.setServerTime(serverMs, 60);
+    const qint64 after = QDateTime::currentMSecsSinceEpoch();
+    const double rate = window.rootObject()->property("serverRate").toDouble();
+    const double offset = window.rootObject()->property("serverOffset").toDouble();
+    QCOMPARE(rate, 60.0);
+    QVERIFY(static_cast<double>(before) * rate + offset <= static_cast<double>(serverMs));
+    QVERIFY(static_cast<double>(after) * rate + offset >= static_cast<double>(serverMs));
+}
+
 void tst_DashboardWindow::tellsOfTheStations()
 {
     QQmlEngine engine;
@@ -96,6 +114,15 @@ void tst_DashboardWindow::tellsOfTheSnoozes()
     const QVariantList snoozes{QVariantMap{{QStringLiteral("nodeID"), QStringLiteral("st")}}};
     window.setSnoozes(snoozes);
     QCOMPARE(window.rootObject()->property("snoozes").toList(), snoozes);
+}
+
+void tst_DashboardWindow::handsOverTheClipboard()
+{
+    QQmlEngine engine;
+    QObject plugin;
+    const DashboardWindow window(engine, plugin, {}, testFile(QStringLiteral("Dashboard.qml")));
+    QVERIFY(qobject_cast<SystemClipboard *>(
+        window.rootObject()->property("clipboard").value<QObject *>()));
 }
 
 void tst_DashboardWindow::handsOverWhatReadsTheLog()

@@ -18,11 +18,13 @@ private Q_SLOTS:
     void listsTheErrorsNewestFirst();
     void focusesAStationAndShowsItsUsage();
     void snoozesTheNewestDisconnection();
+    void showsNamesAsTheyAre();
     void withoutADisconnectionThereIsNothingToSnooze();
 
 private:
     QQuickItem *item(const char *name) const;
     QStringList texts(const QString &part) const;
+    QList<int> formats(const QString &part) const;
 
     std::unique_ptr<TestHost> m_host;
     std::unique_ptr<QQuickView> m_view;
@@ -55,6 +57,21 @@ void tst_ErrorBoard::cleanup()
 QQuickItem *tst_ErrorBoard::item(const char *name) const
 {
     return m_view->rootObject()->findChild<QQuickItem *>(QString::fromLatin1(name));
+}
+
+// The ways in which the texts that contain a part are read, Qt::PlainText or another.
+QList<int> tst_ErrorBoard::formats(const QString &part) const
+{
+    QList<int> found;
+    QList<QQuickItem *> items{m_view->rootObject()};
+    while (!items.isEmpty()) {
+        const QQuickItem *item = items.takeFirst();
+        const QVariant format = item->property("textFormat");
+        if (format.isValid() && item->property("text").toString().contains(part))
+            found.append(format.toInt());
+        items += item->childItems();
+    }
+    return found;
 }
 
 // Those of the visible texts that contain a part.
@@ -114,6 +131,28 @@ void tst_ErrorBoard::snoozesTheNewestDisconnection()
     QCOMPARE(m_view->rootObject()->property("answer").toString(), QStringLiteral("snoozed"));
     m_host->event(QStringLiteral("SnoozeError"), command.data);
     QCOMPARE(item("errors")->property("count").toInt(), 1);
+}
+
+void tst_ErrorBoard::showsNamesAsTheyAre()
+{
+    const QString markup = QStringLiteral("<b>");
+    m_view->rootObject()->setProperty("siteName", QStringLiteral("<b>Harbour</b>"));
+    m_host->topologyModel.addStation(QStringLiteral("<b>st</b>"), QStringLiteral("<b>Quay</b>"));
+    m_host->object()->setProperty("focusStationResource", QStringLiteral("<b>st</b>"));
+    m_host->event(
+        QStringLiteral("SystemResChanged"),
+        QVariantMap{{QStringLiteral("cpuPercentage"), 95},
+                    {QStringLiteral("memPercentage"), 17},
+                    {QStringLiteral("networkUsageList"),
+                     QVariantList{QVariantMap{
+                         {QStringLiteral("networkInterface"), QStringLiteral("<b>eth</b>")},
+                         {QStringLiteral("networkPercentage"), 1},
+                         {QStringLiteral("networkBandwidth"), 1000}}}}},
+        QStringLiteral("<b>st</b>"));
+    m_host->invoke("updateStationErrorNumber");
+    // The site, the station's button, its error and its interface.
+    QTRY_COMPARE(formats(markup).size(), 4);
+    QCOMPARE(formats(markup), QList<int>(4, Qt::PlainText));
 }
 
 void tst_ErrorBoard::withoutADisconnectionThereIsNothingToSnooze()

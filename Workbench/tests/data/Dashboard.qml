@@ -7,10 +7,14 @@ Item {
     property string siteName
     property bool serverConnected: false
     property var connectionSince
+    property var statesSince
+    property real serverRate: 1
+    property real serverOffset: 0
     property var stations: []
     property var snoozes
     property bool dark: true
     property QtObject files: null
+    property QtObject clipboard: null
     property QtObject operationalLog: null
 
     anchors.fill: parent
