@@ -2,7 +2,6 @@
 
 #include "Clock.h"
 #include "InputError.h"
-#include "ServerMessages.h"
 #include "SiteServer.h"
 
 #include <QWebSocket>
@@ -15,6 +14,9 @@ constexpr qint64 MaxUntakenBytes = qint64{16} * 1024 * 1024;
 // How long a refused client may take to read why.
 constexpr qint64 FarewellMs = 1000;
 
+// Registered for WebSockets, but without a name in Qt.
+constexpr auto TryAgainLater = static_cast<QWebSocketProtocol::CloseCode>(1013);
+
 } // namespace
 
 ClientSession::ClientSession(std::unique_ptr<QWebSocket> socket, const AccessToken &token,
@@ -25,6 +27,7 @@ ClientSession::ClientSession(std::unique_ptr<QWebSocket> socket, const AccessTok
     , m_server(server)
     , m_clock(clock)
     , m_heartbeat(clock, Pace)
+    , m_commands(server)
 {
     m_socket->setMaxAllowedIncomingFrameSize(ClientMessage::MaxBytes);
     m_socket->setMaxAllowedIncomingMessageSize(ClientMessage::MaxBytes);
@@ -38,7 +41,7 @@ ClientSession::ClientSession(std::unique_ptr<QWebSocket> socket, const AccessTok
     connect(&m_heartbeat, &Heartbeat::fellSilent, this, [this] { m_socket->abort(); });
     clock.callAt(clock.nowMs() + HelloMs, this, [this] {
         if (m_phase == Phase::Unknown)
-            refuse(tr("expected a hello within %1 seconds").arg(HelloMs / 1000));
+            sendAway(tr("expected a hello within %1 seconds").arg(HelloMs / 1000));
     });
 }
 
@@ -57,15 +60,32 @@ void ClientSession::send(const QString &message)
         m_socket->abort();
 }
 
+void ClientSession::welcome()
+{
+    m_phase = Phase::Welcome;
+    send(toText(ServerMessage::Welcome{m_server.site(), m_server.snoozes()}));
+    m_heartbeat.start();
+}
+
+void ClientSession::sendAway(const QString &reason)
+{
+    end({reason, false});
+}
+
 void ClientSession::refuse(const QString &reason)
+{
+    end({reason, true});
+}
+
+void ClientSession::end(const ServerMessage::Refused &refusal)
 {
     if (m_phase == Phase::Refused)
         return;
     m_phase = Phase::Refused;
     m_heartbeat.stop();
     m_clock.callAt(m_clock.nowMs() + FarewellMs, this, [this] { m_socket->abort(); });
-    m_socket->sendTextMessage(toText(ServerMessage::Refused{reason}));
-    m_socket->close(QWebSocketProtocol::CloseCodePolicyViolated);
+    m_socket->sendTextMessage(toText(refusal));
+    m_socket->close(refusal.isFinal ? QWebSocketProtocol::CloseCodePolicyViolated : TryAgainLater);
 }
 
 void ClientSession::take(const QString &text)
@@ -86,15 +106,16 @@ void ClientSession::take(const ClientMessage::Hello &hello)
         return refuse(tr("message: expected one hello, found another"));
     if (!m_token.admits(hello.token))
         return refuse(hello.token.isEmpty() ? tr("expected a token") : tr("the token is wrong"));
-    m_phase = Phase::Welcome;
-    send(toText(ServerMessage::Welcome{m_server.site(), m_server.snoozes()}));
-    m_heartbeat.start();
+    m_phase = Phase::Introduced;
+    Q_EMIT introduced();
 }
 
 void ClientSession::take(const ClientMessage::Command &command)
 {
     if (m_phase == Phase::Unknown)
         return refuse(tr("message: expected a hello first"));
-    const CommandResult result = m_server.execute(command.name, command.data, command.target);
-    send(toText(ServerMessage::Result{command.id, result.code, result.data}));
+    m_commands.add({command.name, command.data, command.target},
+                   [this, id = command.id](const CommandResult &result) {
+                       send(toText(ServerMessage::Result{id, result.code, result.data}));
+                   });
 }

@@ -3,7 +3,9 @@
 
 #include "AccessToken.h"
 #include "ClientMessages.h"
+#include "CommandQueue.h"
 #include "Heartbeat.h"
+#include "ServerMessages.h"
 
 #include <QObject>
 
@@ -16,7 +18,8 @@ class SiteServer;
 /// One client of a site server, from its hello until the connection ends.
 ///
 /// A client that says what is not understood, that says no hello for five seconds, that falls
-/// silent or does not take what it is sent loses its connection, and nothing else happens.
+/// silent or does not take what it is sent loses its connection, and nothing else happens. One that
+/// says what is not understood, or has the wrong token, is told not to try again.
 class ClientSession : public QObject
 {
     Q_OBJECT
@@ -38,16 +41,28 @@ public:
     /// Sends a message that is for all clients. It goes nowhere before this one was welcomed.
     void send(const QString &message);
 
-    /// Says why the connection is not wanted, and ends it.
-    void refuse(const QString &reason);
+    /// Lets a client in that has introduced itself.
+    void welcome();
+
+    /// Ends the connection and says why. Unlike a client that is refused, this one may try again.
+    void sendAway(const QString &reason);
+
+    bool isWelcome() const { return m_phase == Phase::Welcome; }
+    /// Whether there has been no hello yet.
+    bool isStranger() const { return m_phase == Phase::Unknown; }
 
 Q_SIGNALS:
+    /// The client has said its hello and has the token: it is to be welcomed or sent away.
+    void introduced();
     /// The connection is gone. The session is of no more use and may be deleted from the event
     /// loop.
     void ended();
 
 private:
-    enum class Phase { Unknown, Welcome, Refused };
+    enum class Phase { Unknown, Introduced, Welcome, Refused };
+
+    void refuse(const QString &reason);
+    void end(const ServerMessage::Refused &refusal);
 
     void take(const QString &text);
     void take(const ClientMessage::Hello &hello);
@@ -58,6 +73,7 @@ private:
     SiteServer &m_server;
     Clock &m_clock;
     Heartbeat m_heartbeat;
+    CommandQueue m_commands;
     Phase m_phase = Phase::Unknown;
 };
 

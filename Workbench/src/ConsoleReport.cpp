@@ -119,6 +119,9 @@ void ConsoleReport::writeSnooze(const SnoozeAnswer &answer)
     if (answer.isAccepted())
         writeLine(tr("snooze"),
                   tr("%1 is snoozed until %2").arg(answer.nodeId, timeText(answer.endMs)));
+    else if (answer.isLost())
+        writeLine(tr("snooze"),
+                  tr("there is no answer for %1, which may be snoozed or not").arg(answer.nodeId));
     else
         writeLine(tr("snooze"), tr("%1 was refused: %2").arg(answer.nodeId, answer.resultCode));
 }

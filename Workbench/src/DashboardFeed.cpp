@@ -23,19 +23,21 @@ DashboardFeed::DashboardFeed(const ServerLink &link, DashboardWindow &window, QO
     , m_link(link)
     , m_window(window)
 {
-    connect(&link, &ServerLink::opened, this, &DashboardFeed::showConnection);
-    connect(&link, &ServerLink::closed, this, &DashboardFeed::showConnection);
+    m_stationsDue.setSingleShot(true);
+    m_snoozesDue.setSingleShot(true);
+    connect(&m_stationsDue, &QTimer::timeout, this, &DashboardFeed::showStations);
+    connect(&m_snoozesDue, &QTimer::timeout, this, &DashboardFeed::showSnoozes);
+    connect(&link, &ServerLink::opened, this, &DashboardFeed::takeAll);
+    connect(&link, &ServerLink::closed, this, &DashboardFeed::keepAll);
     connect(&link, &ServerLink::closed, this, [this] { takeStates(false); });
-    connect(&link, &ServerLink::opened, this, &DashboardFeed::showStations);
-    connect(&link, &ServerLink::opened, this, &DashboardFeed::showSnoozes);
     connect(&link, &ServerLink::eventRaised, this, [this](const QString &name) {
         if (tellsOfSnoozes(name))
-            showSnoozes();
+            m_snoozesDue.start(0);
     });
-    connect(&link, &ServerLink::stationRemoved, this, &DashboardFeed::showStations);
+    connect(&link, &ServerLink::stationRemoved, this, [this] { m_stationsDue.start(0); });
     connect(&link, &ServerLink::nodeStatusChanged, this, [this](NodeType type) {
         if (type == NodeType::Station)
-            showStations();
+            m_stationsDue.start(0);
     });
     showConnection();
 }
@@ -45,6 +47,23 @@ void DashboardFeed::takeStates(bool areKnown)
     m_window.setStatesSince(areKnown ? QDateTime::currentDateTime() : QDateTime());
 }
 
+void DashboardFeed::takeAll()
+{
+    showConnection();
+    showStations();
+    showSnoozes();
+}
+
+// A change that has not been shown yet was known before the connection was lost.
+void DashboardFeed::keepAll()
+{
+    if (m_stationsDue.isActive())
+        showStations();
+    if (m_snoozesDue.isActive())
+        showSnoozes();
+    showConnection();
+}
+
 void DashboardFeed::showConnection()
 {
     m_window.setConnection(m_link.isOpen(), m_link.since());
@@ -52,10 +71,12 @@ void DashboardFeed::showConnection()
 
 void DashboardFeed::showStations()
 {
+    m_stationsDue.stop();
     m_window.setStations(stationList(m_link.site()));
 }
 
 void DashboardFeed::showSnoozes()
 {
+    m_snoozesDue.stop();
     m_window.setSnoozes(dashboardSnoozes(m_link.site(), m_link.snoozes()));
 }

@@ -2,12 +2,16 @@
 #define DASHBOARDFEED_H
 
 #include <QObject>
+#include <QTimer>
 
 class DashboardWindow;
 class ServerLink;
 
 /// Keeps a dashboard informed of what the plug-in does not tell it: the connection to the server,
 /// the stations of the site and its snoozes. These stay as last known while the connection is lost.
+///
+/// Thousands of snoozes or stations may change at a time; the lists are handed on once, from the
+/// event loop.
 class DashboardFeed : public QObject
 {
     Q_OBJECT
@@ -21,12 +25,16 @@ public:
     void takeStates(bool areKnown);
 
 private:
+    void takeAll();
+    void keepAll();
     void showConnection();
     void showStations();
     void showSnoozes();
 
     const ServerLink &m_link;
     DashboardWindow &m_window;
+    QTimer m_stationsDue;
+    QTimer m_snoozesDue;
 };
 
 #endif

@@ -88,12 +88,17 @@ QString JsonObject::text(const QString &key)
     return text;
 }
 
-bool JsonObject::flag(const QString &key, bool fallback)
+bool JsonObject::requiredFlag(const QString &key)
 {
     const QJsonValue value = take(key);
-    if (!value.isUndefined() && !value.isBool())
+    if (!value.isBool())
         failType(key, tr("true or false"));
-    return value.toBool(fallback);
+    return value.toBool();
+}
+
+bool JsonObject::flag(const QString &key, bool fallback)
+{
+    return has(key) ? requiredFlag(key) : fallback;
 }
 
 double JsonObject::number(const QString &key, double least, double greatest)

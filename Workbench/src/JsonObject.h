@@ -32,6 +32,8 @@ public:
     /// A text that is not empty.
     QString text(const QString &key);
 
+    bool requiredFlag(const QString &key);
+
     /// @param fallback what a missing key means
     bool flag(const QString &key, bool fallback);
 

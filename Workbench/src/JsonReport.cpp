@@ -147,9 +147,10 @@ void JsonReport::writeCapacity(const QString &serverName, double percentage)
 
 void JsonReport::writeSnooze(const SnoozeAnswer &answer)
 {
+    const QJsonValue accepted = answer.isLost() ? QJsonValue() : QJsonValue(answer.isAccepted());
     write(QStringLiteral("snooze"), {{QStringLiteral("node"), answer.nodeId},
                                      {QStringLiteral("until"), timeText(answer.endMs)},
-                                     {QStringLiteral("accepted"), answer.isAccepted()},
+                                     {QStringLiteral("accepted"), accepted},
                                      {QStringLiteral("resultCode"), answer.resultCode}});
 }
 

@@ -5,6 +5,7 @@
 LocalServerLink::LocalServerLink(SiteServer &server, QObject *parent)
     : ServerLink(parent)
     , m_server(server)
+    , m_commands(server)
 { }
 
 void LocalServerLink::open()
@@ -23,13 +24,14 @@ void LocalServerLink::close()
 {
     disconnect(&m_server, nullptr, this, nullptr);
     setOpen(false);
+    m_commands.abandon();
 }
 
 void LocalServerLink::execute(const QString &command, const QVariant &data, const QString &target,
                               const Answer &answer)
 {
     if (isOpen())
-        answer(m_server.execute(command, data, target));
+        m_commands.add({command, data, target}, answer);
     else
         answer({ServerNames::FrameworkInternalError, data});
 }

@@ -1,6 +1,7 @@
 #ifndef LOCALSERVERLINK_H
 #define LOCALSERVERLINK_H
 
+#include "CommandQueue.h"
 #include "ServerLink.h"
 #include "SiteServer.h"
 
@@ -22,6 +23,7 @@ public:
 
 private:
     SiteServer &m_server;
+    CommandQueue m_commands;
 };
 
 #endif

@@ -127,13 +127,19 @@ void RemoteServerLink::take(const ServerMessage::Welcome &welcome)
     m_wait.reset();
     m_pauses.reset();
     m_site = welcome.site;
-    m_snoozes = welcome.snoozes;
+    m_snoozes.clear();
+    for (const Snooze &snooze : welcome.snoozes)
+        m_snoozes.set(snooze);
     m_heartbeat.start();
     setOpen(true);
 }
 
 void RemoteServerLink::take(const ServerMessage::Refused &refusal)
 {
+    if (!refusal.isFinal) {
+        retryLater(refusal.reason);
+        return;
+    }
     close();
     Q_EMIT refused(refusal.reason);
 }
@@ -175,9 +181,14 @@ void RemoteServerLink::take(const ServerMessage::StorageChanged &changed)
     Q_EMIT storageChanged(changed.station.id);
 }
 
-void RemoteServerLink::take(const ServerMessage::Snoozes &snoozes)
+void RemoteServerLink::take(const ServerMessage::Snoozed &snoozed)
 {
-    m_snoozes = snoozes.snoozes;
+    m_snoozes.set(snoozed.snooze);
+}
+
+void RemoteServerLink::take(const ServerMessage::SnoozeEnded &ended)
+{
+    m_snoozes.remove(ended.nodeId);
 }
 
 void RemoteServerLink::take(const ServerMessage::Event &event)

@@ -40,7 +40,7 @@ public:
     ~RemoteServerLink() override;
 
     const Site &site() const override { return m_site; }
-    std::vector<Snooze> snoozes() const override { return m_snoozes; }
+    std::vector<Snooze> snoozes() const override { return m_snoozes.all(); }
     void open() override;
     void close() override;
     void execute(const QString &command, const QVariant &data, const QString &target,
@@ -67,7 +67,8 @@ private:
     void take(const ServerMessage::CameraRemoved &removed);
     void take(const ServerMessage::StationRemoved &removed);
     void take(const ServerMessage::StorageChanged &changed);
-    void take(const ServerMessage::Snoozes &snoozes);
+    void take(const ServerMessage::Snoozed &snoozed);
+    void take(const ServerMessage::SnoozeEnded &ended);
     void take(const ServerMessage::Event &event);
 
     const QUrl m_url;
@@ -78,7 +79,7 @@ private:
     std::unique_ptr<QWebSocket> m_socket; // null while there is nothing but a pause
     std::unique_ptr<QObject> m_wait;      // the context of the clock call that is waited for
     Site m_site;
-    std::vector<Snooze> m_snoozes;
+    SnoozeList m_snoozes;
     std::map<int, Question> m_questions; // commands without a result, by their ids
     int m_lastId = 0;
 };

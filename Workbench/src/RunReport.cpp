@@ -29,6 +29,11 @@ bool SnoozeAnswer::isAccepted() const
     return resultCode == ServerNames::Success;
 }
 
+bool SnoozeAnswer::isLost() const
+{
+    return resultCode == ServerNames::FrameworkInternalError;
+}
+
 RunReport::RunReport(QObject *parent)
     : QObject(parent)
 { }

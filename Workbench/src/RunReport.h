@@ -16,6 +16,8 @@ struct SnoozeAnswer
     QString resultCode;
 
     bool isAccepted() const;
+    /// Whether there was no connection to answer by: the server may have set the snooze or not.
+    bool isLost() const;
 };
 
 /// How often this machine was sampled, and the last sample in percent. A figure that could not be

@@ -9,15 +9,18 @@
 #include <QWebSocketCorsAuthenticator>
 
 #include <algorithm>
+#include <iterator>
 
 namespace {
 
 constexpr int HandshakeMs = 5000;
 
-bool tellsOfSnoozes(const QString &event)
+// The node whose snooze an event is about; empty for other events.
+QString snoozedNode(const QString &event, const QVariant &data)
 {
-    return event == ServerNames::SnoozeError || event == ServerNames::DeviceStillError
-           || event == ServerNames::RemoveSnooze;
+    if (event == ServerNames::SnoozeError || event == ServerNames::DeviceStillError)
+        return data.toMap().value(ServerNames::KeyNodeId).toString();
+    return event == ServerNames::RemoveSnooze ? data.toString() : QString();
 }
 
 } // namespace
@@ -56,10 +59,29 @@ void ServerGate::admit()
         socket->setParent(nullptr);
         const auto session = new ClientSession(std::move(socket), m_token, m_server, m_clock, this);
         connect(session, &ClientSession::ended, this, [this, session] { drop(session); });
+        connect(session, &ClientSession::introduced, this, [this, session] { judge(session); });
         m_sessions.push_back(session);
-        if (m_sessions.size() > MaxClients)
-            session->refuse(tr("the server has %1 clients already").arg(MaxClients));
+        limitStrangers();
     }
+}
+
+void ServerGate::judge(ClientSession *session)
+{
+    const auto clients = std::count_if(m_sessions.begin(), m_sessions.end(),
+                                       [](const ClientSession *one) { return one->isWelcome(); });
+    if (static_cast<std::size_t>(clients) < MaxClients)
+        session->welcome();
+    else
+        session->sendAway(tr("the server has %1 clients already").arg(MaxClients));
+}
+
+void ServerGate::limitStrangers()
+{
+    std::vector<ClientSession *> strangers;
+    std::copy_if(m_sessions.begin(), m_sessions.end(), std::back_inserter(strangers),
+                 [](const ClientSession *session) { return session->isStranger(); });
+    if (strangers.size() > MaxStrangers)
+        strangers.front()->sendAway(tr("too many connections wait for a hello"));
 }
 
 void ServerGate::drop(ClientSession *session)
@@ -84,10 +106,20 @@ void ServerGate::relaySignals()
     });
     connect(&m_server, &SiteServer::eventRaised, this,
             [this](const QString &name, const QVariant &data, const QString &sourceId) {
-                if (tellsOfSnoozes(name))
-                    tellAll(ServerMessage::Snoozes{m_server.snoozes()});
+                const QString nodeId = snoozedNode(name, data);
+                if (!nodeId.isEmpty())
+                    tellOfSnooze(nodeId);
                 tellAll(ServerMessage::Event{name, data, sourceId});
             });
+}
+
+// The snooze as it is now: much may have happened since the event was raised.
+void ServerGate::tellOfSnooze(const QString &nodeId)
+{
+    if (const std::optional<Snooze> snooze = m_server.snoozeOf(nodeId))
+        tellAll(ServerMessage::Snoozed{*snooze});
+    else
+        tellAll(ServerMessage::SnoozeEnded{nodeId});
 }
 
 // A client that does not take its messages ends while it is told, so the list may change.

@@ -22,8 +22,12 @@ class ServerGate : public QObject
     Q_OBJECT
 
 public:
-    /// More clients at a time are turned away.
+    /// More clients at a time are sent away.
     static constexpr std::size_t MaxClients = 100;
+
+    /// Where more connections at a time are without a hello, the oldest of them go. Clients say
+    /// theirs at once, so whoever opens many connections cannot keep them out.
+    static constexpr std::size_t MaxStrangers = 100;
 
     /// @param token  what clients have to give
     /// @param server like the clock, it must outlive the gate
@@ -40,19 +44,23 @@ public:
     QUrl url() const { return m_listener.serverUrl(); }
     QString errorText() const { return m_listener.errorString(); }
 
-    std::size_t clientCount() const { return m_sessions.size(); }
+    /// Clients and those that have not said hello yet.
+    std::size_t connectionCount() const { return m_sessions.size(); }
 
 private:
     void admit();
+    void judge(ClientSession *session);
+    void limitStrangers();
     void drop(ClientSession *session);
     void relaySignals();
+    void tellOfSnooze(const QString &nodeId);
     template <typename Message> void tellAll(const Message &message);
 
     SiteServer &m_server;
     const AccessToken m_token;
     Clock &m_clock;
     QWebSocketServer m_listener;
-    std::vector<ClientSession *> m_sessions; // children, until they have ended
+    std::vector<ClientSession *> m_sessions; // children, until they have ended; oldest first
 };
 
 #endif

@@ -22,11 +22,13 @@ const QString NodeStatusType = QStringLiteral("nodeStatus");
 const QString CameraRemovedType = QStringLiteral("cameraRemoved");
 const QString StationRemovedType = QStringLiteral("stationRemoved");
 const QString StorageChangedType = QStringLiteral("storageChanged");
-const QString SnoozesType = QStringLiteral("snoozes");
+const QString SnoozedType = QStringLiteral("snoozed");
+const QString SnoozeEndedType = QStringLiteral("snoozeEnded");
 const QString EventType = QStringLiteral("event");
 
 const QString SiteKey = QStringLiteral("site");
 const QString ReasonKey = QStringLiteral("reason");
+const QString FinalKey = QStringLiteral("final");
 const QString IdKey = QStringLiteral("id");
 const QString CodeKey = QStringLiteral("code");
 const QString DataKey = QStringLiteral("data");
@@ -35,29 +37,40 @@ const QString StationKey = QStringLiteral("station");
 const QString ConnectedKey = QStringLiteral("connected");
 const QString NameKey = QStringLiteral("name");
 const QString SourceKey = QStringLiteral("source");
+const QString SnoozeKey = QStringLiteral("snooze");
 const QString SnoozesKey = QStringLiteral("snoozes");
+
+Snooze readSnooze(JsonObject &object)
+{
+    const Snooze snooze{
+        object.text(ServerNames::KeyNodeId),
+        object.wholeNumber(ServerNames::KeyType, ServerNames::CameraDisconnected,
+                           ServerNames::StationDisconnected),
+        static_cast<qint64>(object.number(ServerNames::KeyTimestamp, 0, LatestEndSeconds))};
+    object.expectNoMore();
+    return snooze;
+}
 
 std::vector<Snooze> readSnoozes(JsonObject &object)
 {
     std::vector<Snooze> snoozes;
-    for (JsonObject &entry : object.requiredObjects(SnoozesKey)) {
-        snoozes.push_back(
-            {entry.text(ServerNames::KeyNodeId),
-             entry.wholeNumber(ServerNames::KeyType, ServerNames::CameraDisconnected,
-                               ServerNames::StationDisconnected),
-             static_cast<qint64>(entry.number(ServerNames::KeyTimestamp, 0, LatestEndSeconds))});
-        entry.expectNoMore();
-    }
+    for (JsonObject &entry : object.requiredObjects(SnoozesKey))
+        snoozes.push_back(readSnooze(entry));
     return snoozes;
+}
+
+QJsonObject toJson(const Snooze &snooze)
+{
+    return {{ServerNames::KeyNodeId, snooze.nodeId},
+            {ServerNames::KeyType, snooze.errorType},
+            {ServerNames::KeyTimestamp, snooze.endSeconds}};
 }
 
 void writeSnoozes(const std::vector<Snooze> &snoozes, QJsonObject &object)
 {
     QJsonArray array;
     for (const Snooze &snooze : snoozes)
-        array.append(QJsonObject{{ServerNames::KeyNodeId, snooze.nodeId},
-                                 {ServerNames::KeyType, snooze.errorType},
-                                 {ServerNames::KeyTimestamp, snooze.endSeconds}});
+        array.append(toJson(snooze));
     object.insert(SnoozesKey, array);
 }
 
@@ -65,6 +78,11 @@ Welcome readWelcome(JsonObject &object)
 {
     JsonObject site = object.object(SiteKey);
     return {readSite(site), readSnoozes(object)};
+}
+
+Refused readRefused(JsonObject &object)
+{
+    return {object.text(ReasonKey), object.requiredFlag(FinalKey)};
 }
 
 Result readResult(JsonObject &object)
@@ -77,7 +95,7 @@ NodeStatus readNodeStatus(JsonObject &object)
 {
     const bool isCamera = object.has(CameraKey);
     return {isCamera ? NodeType::Camera : NodeType::Station,
-            object.text(isCamera ? CameraKey : StationKey), object.flag(ConnectedKey, true)};
+            object.text(isCamera ? CameraKey : StationKey), object.requiredFlag(ConnectedKey)};
 }
 
 StorageChanged readStorageChanged(JsonObject &object)
@@ -86,6 +104,12 @@ StorageChanged readStorageChanged(JsonObject &object)
     station.id = object.text(StationKey);
     readStorage(object, station);
     return {station};
+}
+
+Snoozed readSnoozed(JsonObject &object)
+{
+    JsonObject snooze = object.object(SnoozeKey);
+    return {readSnooze(snooze)};
 }
 
 Event readEvent(JsonObject &object)
@@ -108,6 +132,7 @@ QString toText(const Refused &refused)
 {
     QJsonObject object = Message::object(RefusedType);
     object.insert(ReasonKey, refused.reason);
+    object.insert(FinalKey, refused.isFinal);
     return Message::toText(object);
 }
 
@@ -150,10 +175,17 @@ QString toText(const StorageChanged &changed)
     return Message::toText(object);
 }
 
-QString toText(const Snoozes &snoozes)
+QString toText(const Snoozed &snoozed)
 {
-    QJsonObject object = Message::object(SnoozesType);
-    writeSnoozes(snoozes.snoozes, object);
+    QJsonObject object = Message::object(SnoozedType);
+    object.insert(SnoozeKey, toJson(snoozed.snooze));
+    return Message::toText(object);
+}
+
+QString toText(const SnoozeEnded &ended)
+{
+    QJsonObject object = Message::object(SnoozeEndedType);
+    object.insert(ServerNames::KeyNodeId, ended.nodeId);
     return Message::toText(object);
 }
 
@@ -170,8 +202,7 @@ AnyServerMessage readServerMessage(const QString &text)
 {
     static const Message::Readers<AnyServerMessage> readers{
         {WelcomeType, [](JsonObject &object) -> AnyServerMessage { return readWelcome(object); }},
-        {RefusedType,
-         [](JsonObject &object) -> AnyServerMessage { return Refused{object.text(ReasonKey)}; }},
+        {RefusedType, [](JsonObject &object) -> AnyServerMessage { return readRefused(object); }},
         {ResultType, [](JsonObject &object) -> AnyServerMessage { return readResult(object); }},
         {NodeStatusType,
          [](JsonObject &object) -> AnyServerMessage { return readNodeStatus(object); }},
@@ -185,8 +216,11 @@ AnyServerMessage readServerMessage(const QString &text)
          }},
         {StorageChangedType,
          [](JsonObject &object) -> AnyServerMessage { return readStorageChanged(object); }},
-        {SnoozesType,
-         [](JsonObject &object) -> AnyServerMessage { return Snoozes{readSnoozes(object)}; }},
+        {SnoozedType, [](JsonObject &object) -> AnyServerMessage { return readSnoozed(object); }},
+        {SnoozeEndedType,
+         [](JsonObject &object) -> AnyServerMessage {
+             return SnoozeEnded{object.text(ServerNames::KeyNodeId)};
+         }},
         {EventType, [](JsonObject &object) -> AnyServerMessage { return readEvent(object); }},
     };
     return Message::read(text, readers);

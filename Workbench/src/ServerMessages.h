@@ -26,7 +26,8 @@ struct Welcome
 /// The last message on a connection that the server will not have.
 struct Refused
 {
-    QString reason; ///< a sentence for the user
+    QString reason;      ///< a sentence for the user
+    bool isFinal = true; ///< whether it is of no use to try again
 };
 
 struct Result
@@ -58,10 +59,16 @@ struct StorageChanged
     Station station; ///< with its id, volumes and recording groups alone
 };
 
-/// The snoozes in force, all of them. It comes before the event that tells of a change.
-struct Snoozes
+/// A node is snoozed, or snoozed anew. It comes before the event that tells of it.
+struct Snoozed
 {
-    std::vector<Snooze> snoozes;
+    Snooze snooze;
+};
+
+/// A node is not snoozed any more. It comes before the event that tells of it.
+struct SnoozeEnded
+{
+    QString nodeId;
 };
 
 struct Event
@@ -77,7 +84,7 @@ using AnyServerMessage =
     std::variant<ServerMessage::Welcome, ServerMessage::Refused, ServerMessage::Result,
                  ServerMessage::NodeStatus, ServerMessage::CameraRemoved,
                  ServerMessage::StationRemoved, ServerMessage::StorageChanged,
-                 ServerMessage::Snoozes, ServerMessage::Event>;
+                 ServerMessage::Snoozed, ServerMessage::SnoozeEnded, ServerMessage::Event>;
 
 QString toText(const ServerMessage::Welcome &welcome);
 QString toText(const ServerMessage::Refused &refused);
@@ -86,7 +93,8 @@ QString toText(const ServerMessage::NodeStatus &status);
 QString toText(const ServerMessage::CameraRemoved &removed);
 QString toText(const ServerMessage::StationRemoved &removed);
 QString toText(const ServerMessage::StorageChanged &changed);
-QString toText(const ServerMessage::Snoozes &snoozes);
+QString toText(const ServerMessage::Snoozed &snoozed);
+QString toText(const ServerMessage::SnoozeEnded &ended);
 QString toText(const ServerMessage::Event &event);
 
 /// Throws InputError when a text is no such message.

@@ -3,9 +3,6 @@
 #include "Clock.h"
 #include "ServerNames.h"
 
-#include <QCoreApplication>
-#include <QEvent>
-
 #include <utility>
 
 namespace {
@@ -29,12 +26,17 @@ std::vector<Snooze> SiteServer::snoozes() const
     return m_snoozes.active(m_clock.nowMs());
 }
 
+std::optional<Snooze> SiteServer::snoozeOf(const QString &nodeId) const
+{
+    return m_snoozes.active(nodeId, m_clock.nowMs());
+}
+
 void SiteServer::reset(Site site)
 {
     m_site = std::move(site);
     loadSnoozes();
-    // Events of the former site that are still on their way.
-    QCoreApplication::removePostedEvents(this, QEvent::MetaCall);
+    // Events of the former site that are still on their way go with their context.
+    m_events = std::make_unique<QObject>();
 }
 
 bool SiteServer::setCameraConnected(const QString &cameraId, bool connected)
@@ -179,7 +181,7 @@ void SiteServer::announceStorage(const Station &station)
 void SiteServer::raise(const QString &name, const QVariant &data, const QString &sourceId)
 {
     QMetaObject::invokeMethod(
-        this, [this, name, data, sourceId] { Q_EMIT eventRaised(name, data, sourceId); },
+        m_events.get(), [this, name, data, sourceId] { Q_EMIT eventRaised(name, data, sourceId); },
         Qt::QueuedConnection);
 }
 

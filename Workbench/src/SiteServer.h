@@ -7,8 +7,18 @@
 #include <QObject>
 #include <QVariant>
 
+#include <memory>
+
 class Clock;
 class SnoozeStore;
+
+/// What a client asks of a server.
+struct SiteCommand
+{
+    QString name;
+    QVariant data;
+    QString target; ///< the station that it is for; empty for the server itself
+};
 
 /// A server's answer to a command.
 struct CommandResult
@@ -36,6 +46,9 @@ public:
 
     /// The snoozes in force. An event is raised whenever they change.
     std::vector<Snooze> snoozes() const;
+
+    /// The snooze of a node, if one is in force.
+    std::optional<Snooze> snoozeOf(const QString &nodeId) const;
 
     /// Starts anew with a site as given, and with no snoozes but those of the store.
     void reset(Site site);
@@ -69,6 +82,10 @@ public:
     /// @param target the station that the command is for; empty for the server itself
     CommandResult execute(const QString &command, const QVariant &data, const QString &target);
 
+    /// Carries out commands one after another; a result for each, in their order. Snoozes in a row
+    /// are stored together, all or none.
+    std::vector<CommandResult> executeAll(const std::vector<SiteCommand> &commands);
+
 Q_SIGNALS:
     void nodeStatusChanged(NodeType type, const QString &nodeId, bool connected);
     void cameraRemoved(const QString &cameraId);
@@ -84,7 +101,8 @@ private:
     void announceStorage(const Station &station);
     void raise(const QString &name, const QVariant &data, const QString &sourceId = {});
 
-    CommandResult snooze(const QVariant &data);
+    QString verdictOn(const Snooze &snooze) const;
+    std::vector<CommandResult> snooze(const QVariantList &requests);
     CommandResult supportsMonitoring(const QString &stationId) const;
     void reconnectCameras(const QStringList &ownParts, const QString &stationId);
     void reconnectStations(const QStringList &ownParts, const QString &parentId);
@@ -96,12 +114,14 @@ private:
     std::vector<Snooze> takeExpiredSnoozes();
     void expireSnoozes();
     void scheduleExpiry();
+    void scheduleExpiryAt(qint64 timeMs);
     void reportAll();
 
     Clock &m_clock;
     SnoozeStore *const m_store; // or null
     Site m_site;
     SnoozeList m_snoozes;
+    std::unique_ptr<QObject> m_events = std::make_unique<QObject>(); // the context of those to come
     std::optional<qint64> m_expiryCallMs; // when snoozes are looked through next
     qint64 m_reportCount = 0;
 };

@@ -3,13 +3,32 @@
 #include "Clock.h"
 #include "ServerNames.h"
 
+#include <utility>
+
+std::vector<CommandResult> SiteServer::executeAll(const std::vector<SiteCommand> &commands)
+{
+    std::vector<CommandResult> results;
+    for (auto next = commands.begin(); next != commands.end();) {
+        QVariantList snoozes;
+        for (; next != commands.end() && next->name == ServerNames::SetSnooze; ++next)
+            snoozes.append(next->data);
+        for (CommandResult &result : snooze(snoozes))
+            results.push_back(std::move(result));
+        if (next != commands.end()) {
+            results.push_back(execute(next->name, next->data, next->target));
+            ++next;
+        }
+    }
+    return results;
+}
+
 CommandResult SiteServer::execute(const QString &command, const QVariant &data,
                                   const QString &target)
 {
     if (command == ServerNames::GetSnoozeList)
         return {ServerNames::Success, m_snoozes.activeNodeIds(m_clock.nowMs())};
     if (command == ServerNames::SetSnooze)
-        return snooze(data);
+        return snooze({data}).front();
     if (command == ServerNames::IsSupportSystemMonitor)
         return supportsMonitoring(target);
     if (command == ServerNames::ReconnectCameras) {

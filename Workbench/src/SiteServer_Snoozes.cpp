@@ -11,6 +11,15 @@ namespace {
 // The last second of the year 9999, the longest snooze that can be written as a date.
 constexpr qint64 LatestEndSeconds = 253'402'300'799;
 
+constexpr qint64 MsPerSecond = 1000;
+
+Snooze snoozeFrom(const QVariantMap &request)
+{
+    return {request.value(ServerNames::KeyNodeId).toString(),
+            request.value(ServerNames::KeyType).toInt(),
+            request.value(ServerNames::KeyTimestamp).toLongLong()};
+}
+
 } // namespace
 
 // Snoozes of nodes that the site does not have are kept: it may be another site by mistake.
@@ -25,29 +34,43 @@ void SiteServer::loadSnoozes()
     scheduleExpiry();
 }
 
-CommandResult SiteServer::snooze(const QVariant &data)
+// Success, or why a snooze cannot be set.
+QString SiteServer::verdictOn(const Snooze &snooze) const
 {
-    const QVariantMap request = data.toMap();
-    const Snooze snooze{request.value(ServerNames::KeyNodeId).toString(),
-                        request.value(ServerNames::KeyType).toInt(),
-                        request.value(ServerNames::KeyTimestamp).toLongLong()};
     const bool isCamera = m_site.findCamera(snooze.nodeId);
-    const bool isStation = m_site.findStation(snooze.nodeId);
-    if (!isCamera && !isStation)
-        return {ServerNames::UnknownNode, data};
+    if (!isCamera && !m_site.findStation(snooze.nodeId))
+        return ServerNames::UnknownNode;
     const int expected =
         isCamera ? ServerNames::CameraDisconnected : ServerNames::StationDisconnected;
-    if (snooze.errorType != expected || snooze.endSeconds > LatestEndSeconds
-        || snoozeState(snooze, m_clock.nowMs()) == SnoozeState::Expired)
-        return {ServerNames::InvalidArgument, data};
+    const bool isSound = snooze.errorType == expected && snooze.endSeconds <= LatestEndSeconds
+                         && snoozeState(snooze, m_clock.nowMs()) == SnoozeState::Active;
+    return isSound ? ServerNames::Success : ServerNames::InvalidArgument;
+}
 
-    if (m_store && !m_store->set(snooze))
-        return {ServerNames::StoreFailed, data};
-    m_snoozes.set(snooze);
-    scheduleExpiry();
-    raise(ServerNames::SnoozeError, QVariantMap{{ServerNames::KeyNodeId, snooze.nodeId},
-                                                {ServerNames::KeyType, snooze.errorType}});
-    return {ServerNames::Success, data};
+std::vector<CommandResult> SiteServer::snooze(const QVariantList &requests)
+{
+    std::vector<CommandResult> results;
+    std::vector<Snooze> accepted;
+    for (const QVariant &request : requests) {
+        const Snooze snooze = snoozeFrom(request.toMap());
+        results.push_back({verdictOn(snooze), request});
+        if (results.back().code == ServerNames::Success)
+            accepted.push_back(snooze);
+    }
+    if (m_store && !accepted.empty() && !m_store->set(accepted)) {
+        for (CommandResult &result : results) {
+            if (result.code == ServerNames::Success)
+                result.code = ServerNames::StoreFailed;
+        }
+        return results;
+    }
+    for (const Snooze &snooze : accepted) {
+        m_snoozes.set(snooze);
+        scheduleExpiryAt(snooze.endSeconds * MsPerSecond);
+        raise(ServerNames::SnoozeError, QVariantMap{{ServerNames::KeyNodeId, snooze.nodeId},
+                                                    {ServerNames::KeyType, snooze.errorType}});
+    }
+    return results;
 }
 
 bool SiteServer::isDown(const Snooze &snooze) const
@@ -96,15 +119,20 @@ void SiteServer::expireSnoozes()
     scheduleExpiry();
 }
 
-// One call is under way for the earliest end. Where a snooze was dropped or replaced meanwhile, the
-// call finds nothing expired and looks for the next end.
 void SiteServer::scheduleExpiry()
 {
-    const std::optional<qint64> next = m_snoozes.nextEndMs();
-    if (!next || (m_expiryCallMs && *m_expiryCallMs <= *next))
+    if (const std::optional<qint64> next = m_snoozes.nextEndMs())
+        scheduleExpiryAt(*next);
+}
+
+// One call is under way for the earliest end. Where a snooze was dropped or replaced meanwhile, the
+// call finds nothing expired and looks for the next end.
+void SiteServer::scheduleExpiryAt(qint64 timeMs)
+{
+    if (m_expiryCallMs && *m_expiryCallMs <= timeMs)
         return;
-    m_expiryCallMs = next;
-    m_clock.callAt(*next, this, [this] {
+    m_expiryCallMs = timeMs;
+    m_clock.callAt(timeMs, this, [this] {
         m_expiryCallMs.reset();
         expireSnoozes();
     });

@@ -47,6 +47,14 @@ std::vector<Snooze> SnoozeList::active(qint64 nowMs) const
     return snoozes;
 }
 
+std::optional<Snooze> SnoozeList::active(const QString &nodeId, qint64 nowMs) const
+{
+    const auto snooze = m_snoozes.find(nodeId);
+    if (snooze == m_snoozes.end() || snoozeState(*snooze, nowMs) != SnoozeState::Active)
+        return std::nullopt;
+    return *snooze;
+}
+
 std::vector<Snooze> SnoozeList::takeExpired(qint64 nowMs)
 {
     std::vector<Snooze> expired;

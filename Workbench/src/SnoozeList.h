@@ -42,6 +42,12 @@ public:
     /// The snoozes that are active at a time, by the ids of their nodes.
     std::vector<Snooze> active(qint64 nowMs) const;
 
+    /// The snooze of a node, if it is active at a time.
+    std::optional<Snooze> active(const QString &nodeId, qint64 nowMs) const;
+
+    /// All snoozes, by the ids of their nodes.
+    std::vector<Snooze> all() const { return {m_snoozes.cbegin(), m_snoozes.cend()}; }
+
     /// Takes the snoozes off the list that have expired at a time, the earliest end first.
     std::vector<Snooze> takeExpired(qint64 nowMs);
 

@@ -8,6 +8,8 @@
 #include <QSqlQuery>
 #include <QUuid>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int ApplicationId = 0x536e7a31; // tells this kind of file from other SQLite files
@@ -129,32 +131,44 @@ std::vector<Snooze> SnoozeStore::snoozes() const
     return snoozes;
 }
 
-bool SnoozeStore::set(const Snooze &snooze)
+bool SnoozeStore::set(const std::vector<Snooze> &snoozes)
 {
-    QSqlQuery query(QSqlDatabase::database(m_connectionName));
-    query.prepare(QLatin1String(Replace));
-    query.addBindValue(snooze.nodeId);
-    query.addBindValue(snooze.errorType);
-    query.addBindValue(snooze.endSeconds);
-    const bool isWritten = query.exec();
-    return report(isWritten, query.lastError().databaseText());
+    return inTransaction([&snoozes](QSqlQuery &query) {
+        query.prepare(QLatin1String(Replace));
+        return std::all_of(snoozes.begin(), snoozes.end(), [&query](const Snooze &snooze) {
+            query.addBindValue(snooze.nodeId);
+            query.addBindValue(snooze.errorType);
+            query.addBindValue(snooze.endSeconds);
+            return query.exec();
+        });
+    });
 }
 
 bool SnoozeStore::remove(const QStringList &nodeIds)
+{
+    return inTransaction([&nodeIds](QSqlQuery &query) {
+        query.prepare(QLatin1String(Delete));
+        return std::all_of(nodeIds.begin(), nodeIds.end(), [&query](const QString &nodeId) {
+            query.addBindValue(nodeId);
+            return query.exec();
+        });
+    });
+}
+
+// However many rows there are, the commit is the one sync.
+bool SnoozeStore::inTransaction(const std::function<bool(QSqlQuery &)> &change)
 {
     QSqlDatabase database = QSqlDatabase::database(m_connectionName);
     if (!database.transaction())
         return report(false, database.lastError().databaseText());
     QSqlQuery query(database);
-    query.prepare(QLatin1String(Delete));
-    for (const QString &nodeId : nodeIds) {
-        query.addBindValue(nodeId);
-        if (!query.exec()) {
-            const QString failure = query.lastError().databaseText();
-            database.rollback();
-            return report(false, failure);
-        }
+    if (!change(query)) {
+        const QString failure = query.lastError().databaseText();
+        query.finish();
+        database.rollback();
+        return report(false, failure);
     }
+    query.finish();
     const bool isWritten = database.commit();
     const QString failure = database.lastError().databaseText();
     if (!isWritten)

@@ -5,6 +5,10 @@
 
 #include <QCoreApplication>
 
+#include <functional>
+
+class QSqlQuery;
+
 /// The snoozes of a site in an SQLite file that outlives the process, however that ends.
 ///
 /// A change is on the disk when its call returns true. The file belongs to one process at a time.
@@ -27,15 +31,16 @@ public:
     /// All that is kept, in ascending order of the node ids.
     std::vector<Snooze> snoozes() const;
 
-    /// Keeps a snooze, in place of an earlier one of the same node. False, with a warning that
-    /// names the file, when it could not be written; then nothing has changed.
-    bool set(const Snooze &snooze);
+    /// Keeps snoozes, each in place of an earlier one of the same node, all or none. False, with a
+    /// warning that names the file, when they could not be written; then nothing has changed.
+    bool set(const std::vector<Snooze> &snoozes);
 
     /// Forgets the snoozes of some nodes, all or none. False, with a warning, as above.
     bool remove(const QStringList &nodeIds);
 
 private:
     void open();
+    bool inTransaction(const std::function<bool(QSqlQuery &)> &change);
     bool report(bool isWritten, const QString &failure) const;
 
     const QString m_fileName;

@@ -11,7 +11,7 @@
 
 namespace {
 
-const QByteArray Hello = QByteArrayLiteral(R"({"type":"hello","protocol":1})");
+const QByteArray Hello = QByteArrayLiteral(R"({"type":"hello","protocol":2})");
 
 QByteArray nested(int depth)
 {
@@ -19,9 +19,10 @@ QByteArray nested(int depth)
            + QByteArray(depth, ']') + '}';
 }
 
-QByteArray refusal(const char *reason)
+QByteArray refusal(const char *reason, const char *isFinal = "true")
 {
-    return R"({"reason":")" + QByteArray(reason) + R"(","type":"refused"})";
+    return R"({"final":)" + QByteArray(isFinal) + R"(,"reason":")" + QByteArray(reason)
+           + R"(","type":"refused"})";
 }
 
 } // namespace
@@ -116,8 +117,8 @@ void tst_ClientSession::commandIsAnsweredBeforeItsEvents()
     QCOMPARE(client.texts().mid(1),
              QList<QByteArray>({R"({"code":"0","data":{"nodeID":"north/c1","timestamp":)" + end
                                     + R"(,"type":3},"id":7,"type":"result"})",
-                                R"({"snoozes":[{"nodeID":"north/c1","timestamp":)" + end
-                                    + R"(,"type":3}],"type":"snoozes"})",
+                                R"({"snooze":{"nodeID":"north/c1","timestamp":)" + end
+                                    + R"(,"type":3},"type":"snoozed"})",
                                 R"({"data":{"nodeID":"north/c1","type":3},"name":"SnoozeError",)"
                                 R"("type":"event"})"}));
 }
@@ -158,11 +159,11 @@ void tst_ClientSession::messagesThatAreNotUnderstoodAreRefused_data()
         "message: protocol: expected a whole number from 0 to 2147483647, found nothing");
     row("version as text", false, R"({"type":"hello","protocol":"1"})",
         R"(message: protocol: expected a whole number from 0 to 2147483647, found \"1\")");
-    row("another version", false, R"({"type":"hello","protocol":2,"colour":"red"})",
-        "message: protocol: expected version 1, found version 2");
-    row("token is a list", false, R"({"type":"hello","protocol":1,"token":[]})",
+    row("another version", false, R"({"type":"hello","protocol":3,"colour":"red"})",
+        "message: protocol: expected version 2, found version 3");
+    row("token is a list", false, R"({"type":"hello","protocol":2,"token":[]})",
         "message: token: expected a text, found a list");
-    row("unknown key", false, R"({"type":"hello","protocol":1,"colour":"red"})",
+    row("unknown key", false, R"({"type":"hello","protocol":2,"colour":"red"})",
         "message: colour: expected one of the keys protocol, token, type, found an unknown key");
     row("command before the hello", false, R"({"type":"command","id":1,"name":"getSnoozeList"})",
         "message: expected a hello first");
@@ -196,7 +197,7 @@ void tst_ClientSession::messagesThatAreNotUnderstoodAreRefused()
     client.sendText(message);
     QCOMPARE(lastText(client, isWelcome ? 2 : 1), refusal(reason.constData()));
     QTRY_COMPARE(client.closeCode(), 1008);
-    QTRY_COMPARE(m_site->gate.clientCount(), std::size_t(0));
+    QTRY_COMPARE(m_site->gate.connectionCount(), std::size_t(0));
     verifyUnharmed();
 }
 
@@ -228,7 +229,7 @@ void tst_ClientSession::framesThatBreakTheRulesEndTheConnection()
     lastText(client, 1);
     client.sendFrame(opcode, payload, isMasked);
     QTRY_COMPARE(client.closeCode(), code);
-    QTRY_COMPARE(m_site->gate.clientCount(), std::size_t(0));
+    QTRY_COMPARE(m_site->gate.connectionCount(), std::size_t(0));
     verifyUnharmed();
 }
 
@@ -262,7 +263,7 @@ void tst_ClientSession::tokenIsAskedFor()
     const TextFile file("correct-horse-battery\n");
     serve(AccessToken::fromFile(file.path()));
     RawClient client(m_site->gate.url());
-    client.sendText(R"({"type":"hello","protocol":1)" + token + '}');
+    client.sendText(R"({"type":"hello","protocol":2)" + token + '}');
     const QByteArray text = lastText(client, 1);
     if (answer.isEmpty())
         QVERIFY(text.contains(R"("type":"welcome")"));
@@ -273,10 +274,11 @@ void tst_ClientSession::tokenIsAskedFor()
 void tst_ClientSession::clientWithoutAHelloIsDropped()
 {
     RawClient client(m_site->gate.url());
-    QTRY_COMPARE(m_site->gate.clientCount(), std::size_t(1));
+    QTRY_COMPARE(m_site->gate.connectionCount(), std::size_t(1));
     m_site->clock.advance(ClientSession::HelloMs);
-    QCOMPARE(lastText(client, 1), refusal("expected a hello within 5 seconds"));
-    QTRY_COMPARE(m_site->gate.clientCount(), std::size_t(0));
+    QCOMPARE(lastText(client, 1), refusal("expected a hello within 5 seconds", "false"));
+    QTRY_COMPARE(client.closeCode(), 1013);
+    QTRY_COMPARE(m_site->gate.connectionCount(), std::size_t(0));
 }
 
 void tst_ClientSession::silentClientIsDropped()
@@ -285,9 +287,9 @@ void tst_ClientSession::silentClientIsDropped()
     client.sendText(Hello);
     lastText(client, 1);
     m_site->clock.advance(ClientSession::Pace.intervalMs * ClientSession::Pace.patience - 1);
-    QCOMPARE(m_site->gate.clientCount(), std::size_t(1));
+    QCOMPARE(m_site->gate.connectionCount(), std::size_t(1));
     m_site->clock.advance(1);
-    QTRY_COMPARE(m_site->gate.clientCount(), std::size_t(0));
+    QTRY_COMPARE(m_site->gate.connectionCount(), std::size_t(0));
 }
 
 void tst_ClientSession::clientThatDoesNotReadIsDropped()
@@ -297,11 +299,11 @@ void tst_ClientSession::clientThatDoesNotReadIsDropped()
     lastText(client, 1);
     client.stopReading();
     const QString longName(1024 * 1024, u'x');
-    for (int i = 0; i < 100 && m_site->gate.clientCount() > 0; ++i) {
+    for (int i = 0; i < 100 && m_site->gate.connectionCount() > 0; ++i) {
         m_site->server.reportReachingLimit(longName, 90);
         QCoreApplication::processEvents();
     }
-    QTRY_COMPARE(m_site->gate.clientCount(), std::size_t(0));
+    QTRY_COMPARE(m_site->gate.connectionCount(), std::size_t(0));
 }
 
 QTEST_GUILESS_MAIN(tst_ClientSession)

@@ -1,5 +1,6 @@
 #include "ConsoleReport.h"
 
+#include "DeliverEvents.h"
 #include "ServerNames.h"
 #include "WorkbenchFixture.h"
 
@@ -31,6 +32,7 @@ private Q_SLOTS:
     void writesWhichRealNodesAnswer();
     void writesWhatTheUserDoes();
     void writesRefusedSnoozes();
+    void lostAnswerIsNoRefusal();
     void percentSignsInNamesAreLeftAlone();
     void ordinaryReportsAreNotWritten();
     void summaryCountsKindsOfErrors();
@@ -68,7 +70,7 @@ void tst_ConsoleReport::cleanup()
 
 QString tst_ConsoleReport::takeText()
 {
-    QCoreApplication::sendPostedEvents();
+    deliverEvents();
     return std::exchange(m_text, {});
 }
 
@@ -198,17 +200,26 @@ void tst_ConsoleReport::writesWhatTheUserDoes()
         QStringList({QStringLiteral("support   north supports system monitoring"),
                      QStringLiteral("support   south does not support system monitoring"),
                      QStringLiteral("logged    AddDashboardSnooze: Camera disconnected, North"),
-                     QStringLiteral("snooze    north/c1 is snoozed until "
-                                    "2026-06-05 14:01:00 CEST"),
                      QStringLiteral("reconnect cameras north/c1, north/c2"),
-                     QStringLiteral("reconnect stations south")}));
+                     QStringLiteral("reconnect stations south"),
+                     QStringLiteral("snooze    north/c1 is snoozed until "
+                                    "2026-06-05 14:01:00 CEST")}));
 }
 
 void tst_ConsoleReport::writesRefusedSnoozes()
 {
+    m_fixture->workbench.link().open();
+    takeLines();
     send(ServerNames::SetSnooze, QVariantMap{{ServerNames::KeyNodeId, QStringLiteral("north/c1")}});
-    QCOMPARE(takeLines(), QStringList{QStringLiteral("snooze    north/c1 was refused: %1")
-                                          .arg(ServerNames::FrameworkInternalError)});
+    QCOMPARE(takeLines(),
+             QStringList{QStringLiteral("snooze    north/c1 was refused: InvalidArgument")});
+}
+
+void tst_ConsoleReport::lostAnswerIsNoRefusal()
+{
+    send(ServerNames::SetSnooze, QVariantMap{{ServerNames::KeyNodeId, QStringLiteral("north/c1")}});
+    QCOMPARE(takeLines(), QStringList{QStringLiteral("snooze    there is no answer for north/c1, "
+                                                     "which may be snoozed or not")});
 }
 
 void tst_ConsoleReport::percentSignsInNamesAreLeftAlone()

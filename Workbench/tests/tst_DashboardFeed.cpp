@@ -8,6 +8,7 @@
 
 #include <QQmlEngine>
 #include <QQuickItem>
+#include <QSignalSpy>
 #include <QTest>
 
 #include <memory>
@@ -28,6 +29,7 @@ private Q_SLOTS:
     void stationsStayAsLastKnown();
     void followsTheSnoozes();
     void snoozesStayAsLastKnown();
+    void changesAtATimeAreShownOnce();
 
 private:
     QVariant shown(const char *property) const;
@@ -97,7 +99,6 @@ void tst_DashboardFeed::snooze(const char *nodeId, qint64 seconds)
                                   {ServerNames::KeyType, ServerNames::CameraDisconnected},
                                   {ServerNames::KeyTimestamp, m_clock.nowMs() / 1000 + seconds}},
                       QString());
-    QCoreApplication::processEvents();
 }
 
 void tst_DashboardFeed::showsTheConnectionAtOnce()
@@ -144,7 +145,8 @@ void tst_DashboardFeed::followsTheStations()
                                            QStringLiteral("south")}));
     m_server->setStationConnected(QStringLiteral("south"), false);
     m_server->removeStation(QStringLiteral("north/annex"));
-    QCOMPARE(shownStations(), QStringList({QStringLiteral("north"), QStringLiteral("south down")}));
+    QTRY_COMPARE(shownStations(),
+                 QStringList({QStringLiteral("north"), QStringLiteral("south down")}));
 }
 
 void tst_DashboardFeed::stationsStayAsLastKnown()
@@ -164,25 +166,41 @@ void tst_DashboardFeed::followsTheSnoozes()
     QCOMPARE(snoozedNodes(), QStringList());
     snooze("north/c1", 60);
     snooze("south/c1", 120);
-    QCOMPARE(snoozedNodes(), QStringList({QStringLiteral("north/c1"), QStringLiteral("south/c1")}));
+    QTRY_COMPARE(snoozedNodes(),
+                 QStringList({QStringLiteral("north/c1"), QStringLiteral("south/c1")}));
     m_clock.advance(60'000);
-    QCoreApplication::processEvents();
-    QCOMPARE(snoozedNodes(), QStringList{QStringLiteral("south/c1")});
+    QTRY_COMPARE(snoozedNodes(), QStringList{QStringLiteral("south/c1")});
     m_server->removeCamera(QStringLiteral("south/c1"));
-    QCoreApplication::processEvents();
-    QCOMPARE(snoozedNodes(), QStringList());
+    QTRY_COMPARE(snoozedNodes(), QStringList());
 }
 
 void tst_DashboardFeed::snoozesStayAsLastKnown()
 {
     m_link->open();
     snooze("north/c1", 60);
+    QCoreApplication::sendPostedEvents();
     m_link->close();
+    QCOMPARE(snoozedNodes(), QStringList{QStringLiteral("north/c1")});
     m_clock.advance(60'000);
     QCoreApplication::processEvents();
     QCOMPARE(snoozedNodes(), QStringList{QStringLiteral("north/c1")});
     m_link->open();
     QCOMPARE(snoozedNodes(), QStringList());
+}
+
+void tst_DashboardFeed::changesAtATimeAreShownOnce()
+{
+    m_link->open();
+    const QSignalSpy snoozes(m_window->rootObject(), SIGNAL(snoozesChanged()));
+    const QSignalSpy stations(m_window->rootObject(), SIGNAL(stationsChanged()));
+    for (const char *const nodeId : {"north/c1", "north/c2", "south/c1"})
+        snooze(nodeId, 60);
+    m_server->setStationConnected(QStringLiteral("south"), false);
+    m_server->setStationConnected(QStringLiteral("north"), false);
+    QTRY_COMPARE(snoozedNodes().size(), 3);
+    QTRY_COMPARE(shownStations().at(0), QStringLiteral("north down"));
+    QCOMPARE(snoozes.size(), 1);
+    QCOMPARE(stations.size(), 1);
 }
 
 QTEST_MAIN(tst_DashboardFeed)

@@ -1,5 +1,6 @@
 #include "JsonReport.h"
 
+#include "DeliverEvents.h"
 #include "ErrorModel.h"
 #include "ServerNames.h"
 #include "WorkbenchFixture.h"
@@ -32,7 +33,7 @@ private Q_SLOTS:
     void errorsHaveAllTheirFields();
     void writesWhatTheServerDoes();
     void writesWhatTheUserDoes();
-    void refusedSnoozeTellsWhy();
+    void lostAnswerIsNeitherAcceptedNorRefused();
     void missingServerTellsWhy();
     void textIsEscaped();
     void pictureTellsWhetherItWasSaved();
@@ -71,7 +72,7 @@ void tst_JsonReport::cleanup()
 // What was written since the last call, without the time, if that is as at the start.
 QStringList tst_JsonReport::takeLines()
 {
-    QCoreApplication::sendPostedEvents();
+    deliverEvents();
     QStringList lines = std::exchange(m_text, {}).split(u'\n', Qt::SkipEmptyParts);
     lines.replaceInStrings(u',' + Time, QString());
     return lines;
@@ -166,25 +167,25 @@ void tst_JsonReport::writesWhatTheUserDoes()
         QStringLiteral("AddDashboardSnooze"),
         {QVariantMap{{QStringLiteral("param"), QStringLiteral("Camera")}},
          QVariantMap{{QStringLiteral("param"), 5}}});
-    QCOMPARE(
-        takeLines(),
-        QStringList({QStringLiteral(R"({"event":"support","station":"north","supported":true})"),
-                     QStringLiteral(R"({"event":"log","name":"AddDashboardSnooze",)"
-                                    R"("parameters":["Camera",5]})"),
-                     QStringLiteral(R"({"accepted":true,"event":"snooze","node":"north/c1",)"
-                                    R"("resultCode":"0","until":"2026-06-05T14:01:00.000+02:00"})"),
-                     QStringLiteral(R"({"cameras":["north/c1","north/c2"],"event":"reconnect"})"),
-                     QStringLiteral(R"({"event":"reconnect","stations":["south"]})")}));
+    QCOMPARE(takeLines(),
+             QStringList(
+                 {QStringLiteral(R"({"event":"support","station":"north","supported":true})"),
+                  QStringLiteral(R"({"event":"log","name":"AddDashboardSnooze",)"
+                                 R"("parameters":["Camera",5]})"),
+                  QStringLiteral(R"({"cameras":["north/c1","north/c2"],"event":"reconnect"})"),
+                  QStringLiteral(R"({"event":"reconnect","stations":["south"]})"),
+                  QStringLiteral(R"({"accepted":true,"event":"snooze","node":"north/c1",)"
+                                 R"("resultCode":"0","until":"2026-06-05T14:01:00.000+02:00"})")}));
 }
 
-void tst_JsonReport::refusedSnoozeTellsWhy()
+void tst_JsonReport::lostAnswerIsNeitherAcceptedNorRefused()
 {
     Framework &framework = m_fixture->workbench.framework();
     framework.SendCommand(framework.handle(), m_fixture->host.pluginId(), ServerNames::SetSnooze,
                           QVariantMap{{ServerNames::KeyNodeId, QStringLiteral("north/c1")}},
                           nullptr, 0, {});
     const QJsonObject object = takeObject();
-    QCOMPARE(object.value(QStringLiteral("accepted")), QJsonValue(false));
+    QVERIFY(object.value(QStringLiteral("accepted")).isNull());
     QCOMPARE(object.value(QStringLiteral("resultCode")).toString(),
              ServerNames::FrameworkInternalError);
 }

@@ -23,6 +23,7 @@ private Q_SLOTS:
     void passesNothingOnWhileClosed();
     void executesCommandsWhileOpen();
     void commandsFailWhileClosed();
+    void commandsUnderWayFailWithTheConnection();
     void tellsSinceWhen();
 
 private:
@@ -69,13 +70,14 @@ void tst_LocalServerLink::changeEverything()
     QCoreApplication::sendPostedEvents();
 }
 
-// The answer has to come during the call.
+// The answer comes from the event loop, unless the link is closed.
 CommandResult tst_LocalServerLink::execute(const QString &command, const QVariant &data,
                                            const QString &target)
 {
     CommandResult answer;
     m_link->execute(command, data, target,
                     [&answer](const CommandResult &result) { answer = result; });
+    QCoreApplication::sendPostedEvents();
     return answer;
 }
 
@@ -132,6 +134,20 @@ void tst_LocalServerLink::commandsFailWhileClosed()
         execute(ServerNames::ReconnectCameras, data, QStringLiteral("north"));
     QCOMPARE(result.code, ServerNames::FrameworkInternalError);
     QCOMPARE(result.data, data);
+    QVERIFY(!m_server->site().findCamera(QStringLiteral("north/c1"))->connected);
+}
+
+void tst_LocalServerLink::commandsUnderWayFailWithTheConnection()
+{
+    m_link->open();
+    m_server->setCameraConnected(QStringLiteral("north/c1"), false);
+    QStringList codes;
+    m_link->execute(ServerNames::ReconnectCameras, QVariantList{QStringLiteral("c1")},
+                    QStringLiteral("north"),
+                    [&codes](const CommandResult &result) { codes.append(result.code); });
+    m_link->close();
+    QCoreApplication::sendPostedEvents();
+    QCOMPARE(codes, QStringList{ServerNames::FrameworkInternalError});
     QVERIFY(!m_server->site().findCamera(QStringLiteral("north/c1"))->connected);
 }
 

@@ -57,7 +57,7 @@ void tst_LocalSite::storedSnoozesAreTakenUp()
 {
     const QTemporaryDir directory;
     SnoozeStore store(directory.filePath(QStringLiteral("snoozes.sqlite")));
-    store.set({QStringLiteral("south"), 4, VirtualClock::StartMs / 1000 + 60});
+    store.set({{QStringLiteral("south"), 4, VirtualClock::StartMs / 1000 + 60}});
     VirtualClock clock;
     LocalSite site(testSite(), clock, &store);
     site.link().open();
@@ -65,6 +65,7 @@ void tst_LocalSite::storedSnoozesAreTakenUp()
     site.link().execute(
         QStringLiteral("getSnoozeList"), {}, {},
         [&snoozed](const CommandResult &result) { snoozed = result.data.toStringList(); });
+    QCoreApplication::sendPostedEvents();
     QCOMPARE(snoozed, QStringList{QStringLiteral("south")});
 }
 

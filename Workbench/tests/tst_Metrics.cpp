@@ -1,5 +1,6 @@
 #include "Metrics.h"
 
+#include "DeliverEvents.h"
 #include "ErrorModel.h"
 #include "ReadMetrics.h"
 #include "ServerNames.h"
@@ -231,7 +232,7 @@ void tst_Metrics::snoozesEndAtTheirTimes()
                                       {ServerNames::KeyType, 3},
                                       {ServerNames::KeyTimestamp, 1'780'660'860}},
                           nullptr, 0, {});
-    QCoreApplication::sendPostedEvents();
+    deliverEvents();
     QVERIFY(readMetrics(m_metrics->text())
                 .contains(QStringLiteral("gauge system_monitor_snooze_end_timestamp_seconds"
                                          "{kind='camera',node='north/c1'} 1.78066e+09 seconds")));

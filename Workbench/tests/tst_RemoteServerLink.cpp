@@ -71,6 +71,7 @@ private Q_SLOTS:
     void serverThatIsNotUnderstoodIsLeft();
 
     void refusalIsFinal();
+    void linkThatIsSentAwayTriesAgain();
     void tokenIsGiven();
 
 private:
@@ -220,8 +221,8 @@ void tst_RemoteServerLink::commandsAreAnswered()
                     QStringLiteral("north"), logged);
     QVERIFY(waitForLog(QStringLiteral(R"(answer 0 ["c1"])")));
     QCOMPARE(m_log.take(),
-             QStringList({QStringLiteral("0 north/c1 0"), QStringLiteral("answer 0 []"),
-                          QStringLiteral("0 north/c1 1"), QStringLiteral(R"(answer 0 ["c1"])")}));
+             QStringList({QStringLiteral("0 north/c1 0"), QStringLiteral("0 north/c1 1"),
+                          QStringLiteral("answer 0 []"), QStringLiteral(R"(answer 0 ["c1"])")}));
 }
 
 void tst_RemoteServerLink::commandsWithoutAConnectionFail()
@@ -366,6 +367,18 @@ void tst_RemoteServerLink::refusalIsFinal()
     m_clock->advance(60'000);
     QTest::qWait(20);
     QCOMPARE(m_log.take(), QStringList{QStringLiteral("refused: expected a token")});
+}
+
+void tst_RemoteServerLink::linkThatIsSentAwayTriesAgain()
+{
+    FakeServer server;
+    linkTo(server.url());
+    m_link->open();
+    QVERIFY(server.say(toText(ServerMessage::Refused{QStringLiteral("full"), false})));
+    QVERIFY(waitForLog(QStringLiteral("failed: full, 250")));
+    m_clock->advance(250);
+    QVERIFY(server.say(toText(ServerMessage::Welcome{testSite(), {}})));
+    QVERIFY(QTest::qWaitFor([this] { return m_link->isOpen(); }));
 }
 
 void tst_RemoteServerLink::tokenIsGiven()

@@ -2,6 +2,7 @@
 
 #include "RawClient.h"
 #include "ServedSite.h"
+#include "ServerNames.h"
 
 #include <QTest>
 
@@ -10,7 +11,14 @@
 
 namespace {
 
-const QByteArray Hello = QByteArrayLiteral(R"({"type":"hello","protocol":1})");
+const QByteArray Hello = QByteArrayLiteral(R"({"type":"hello","protocol":2})");
+
+QVariantMap snoozeRequest(const QString &cameraId, qint64 endSeconds)
+{
+    return {{ServerNames::KeyNodeId, cameraId},
+            {ServerNames::KeyType, ServerNames::CameraDisconnected},
+            {ServerNames::KeyTimestamp, endSeconds}};
+}
 
 } // namespace
 
@@ -30,7 +38,10 @@ private Q_SLOTS:
     void pagesInBrowsersAreTurnedAway();
     void requestsThatAreNoneAreTurnedAway_data();
     void requestsThatAreNoneAreTurnedAway();
-    void clientsBeyondTheLimitAreRefused();
+    void clientsBeyondTheLimitAreSentAway();
+    void connectionsWithoutAHelloKeepNobodyOut();
+    void changedSnoozesAreToldOneByOne();
+    void snoozesAtATimeDoNotEndTheConnection();
     void gateMayGoWithItsClients();
 
 private:
@@ -99,7 +110,7 @@ void tst_ServerGate::allClientsHearWhatHappens()
 void tst_ServerGate::nobodyHearsAnythingBeforeItsHello()
 {
     RawClient client(m_site->gate.url());
-    QTRY_COMPARE(m_site->gate.clientCount(), std::size_t(1));
+    QTRY_COMPARE(m_site->gate.connectionCount(), std::size_t(1));
     m_site->server.setCameraConnected(QStringLiteral("north/c1"), false);
     client.sendText(Hello);
     QTRY_COMPARE(client.texts().size(), 1);
@@ -110,16 +121,16 @@ void tst_ServerGate::clientsThatLeaveAreForgotten()
 {
     {
         const RawClient client(m_site->gate.url());
-        QTRY_COMPARE(m_site->gate.clientCount(), std::size_t(1));
+        QTRY_COMPARE(m_site->gate.connectionCount(), std::size_t(1));
     }
-    QTRY_COMPARE(m_site->gate.clientCount(), std::size_t(0));
+    QTRY_COMPARE(m_site->gate.connectionCount(), std::size_t(0));
 }
 
 void tst_ServerGate::pagesInBrowsersAreTurnedAway()
 {
     RawClient client(m_site->gate.url(), "Origin: http://example.org\r\n");
     QTRY_COMPARE(client.status(), QByteArray("HTTP/1.1 403 Access Forbidden"));
-    QCOMPARE(m_site->gate.clientCount(), std::size_t(0));
+    QCOMPARE(m_site->gate.connectionCount(), std::size_t(0));
 }
 
 void tst_ServerGate::requestsThatAreNoneAreTurnedAway_data()
@@ -136,23 +147,96 @@ void tst_ServerGate::requestsThatAreNoneAreTurnedAway()
     RawClient::connectOnly(socket, m_site->gate.url());
     socket.write(request);
     QTRY_COMPARE(socket.state(), QAbstractSocket::UnconnectedState);
-    QCOMPARE(m_site->gate.clientCount(), std::size_t(0));
+    QCOMPARE(m_site->gate.connectionCount(), std::size_t(0));
 }
 
-void tst_ServerGate::clientsBeyondTheLimitAreRefused()
+void tst_ServerGate::clientsBeyondTheLimitAreSentAway()
 {
     std::vector<std::unique_ptr<RawClient>> clients;
     for (std::size_t i = 0; i < ServerGate::MaxClients; ++i) {
         clients.push_back(std::make_unique<RawClient>(m_site->gate.url()));
+        clients.back()->sendText(Hello);
+    }
+    QTRY_COMPARE(clients.back()->texts().size(), 1);
+    RawClient late(m_site->gate.url());
+    late.sendText(Hello);
+    QTRY_COMPARE(late.texts(), QList<QByteArray>{R"({"final":false,"reason":"the server has 100 )"
+                                                 R"(clients already","type":"refused"})"});
+    QTRY_COMPARE(late.closeCode(), 1013);
+    QTRY_COMPARE(m_site->gate.connectionCount(), ServerGate::MaxClients);
+    clients.pop_back();
+    QTRY_COMPARE(m_site->gate.connectionCount(), ServerGate::MaxClients - 1);
+}
+
+void tst_ServerGate::connectionsWithoutAHelloKeepNobodyOut()
+{
+    std::vector<std::unique_ptr<RawClient>> strangers;
+    for (std::size_t i = 0; i < ServerGate::MaxStrangers; ++i) {
+        strangers.push_back(std::make_unique<RawClient>(m_site->gate.url()));
         QCoreApplication::processEvents();
     }
-    QTRY_COMPARE(m_site->gate.clientCount(), ServerGate::MaxClients);
-    RawClient late(m_site->gate.url());
-    QTRY_COMPARE(late.texts(), QList<QByteArray>{R"({"reason":"the server has 100 clients )"
-                                                 R"(already","type":"refused"})"});
-    QTRY_COMPARE(m_site->gate.clientCount(), ServerGate::MaxClients);
-    clients.pop_back();
-    QTRY_COMPARE(m_site->gate.clientCount(), ServerGate::MaxClients - 1);
+    QTRY_COMPARE(m_site->gate.connectionCount(), ServerGate::MaxStrangers);
+    RawClient client(m_site->gate.url());
+    client.sendText(Hello);
+    QTRY_COMPARE(client.texts().size(), 1);
+    QVERIFY(client.texts().constFirst().contains("welcome"));
+    QTRY_COMPARE(strangers.front()->texts(),
+                 QList<QByteArray>{R"({"final":false,"reason":"too many connections wait for a )"
+                                   R"(hello","type":"refused"})"});
+    QVERIFY(strangers.back()->isConnected());
+}
+
+void tst_ServerGate::changedSnoozesAreToldOneByOne()
+{
+    RawClient client(m_site->gate.url());
+    client.sendText(Hello);
+    QTRY_COMPARE(client.texts().size(), 1);
+    const qint64 end = m_site->clock.nowMs() / 1000 + 60;
+    for (const QString &nodeId : {QStringLiteral("north/c1"), QStringLiteral("north/c2")})
+        m_site->server.execute(ServerNames::SetSnooze, snoozeRequest(nodeId, end), {});
+    m_site->server.removeCamera(QStringLiteral("north/c1"));
+    QTRY_COMPARE(client.texts().size(), 8);
+    const QByteArray endText = QByteArray::number(end);
+    QCOMPARE(client.texts().mid(1),
+             QList<QByteArray>(
+                 {R"({"camera":"north/c1","type":"cameraRemoved"})",
+                  // It is over before there was time to tell of it.
+                  R"({"nodeID":"north/c1","type":"snoozeEnded"})",
+                  R"({"data":{"nodeID":"north/c1","type":3},"name":"SnoozeError","type":"event"})",
+                  R"({"snooze":{"nodeID":"north/c2","timestamp":)" + endText
+                      + R"(,"type":3},"type":"snoozed"})",
+                  R"({"data":{"nodeID":"north/c2","type":3},"name":"SnoozeError","type":"event"})",
+                  R"({"nodeID":"north/c1","type":"snoozeEnded"})",
+                  R"({"data":"north/c1","name":"RemoveSnooze","type":"event"})"}));
+}
+
+// What a client is sent for each must not grow with their number: it would not keep up.
+void tst_ServerGate::snoozesAtATimeDoNotEndTheConnection()
+{
+    constexpr int Count = 2000;
+    Station station;
+    station.id = QStringLiteral("st");
+    station.name = QStringLiteral("Station");
+    for (int i = 0; i < Count; ++i)
+        station.cameras.push_back(
+            {QStringLiteral("st/%1").arg(i), QStringLiteral("Camera"), false});
+    Site site;
+    site.stations = {station};
+
+    RawClient reader(m_site->gate.url());
+    reader.sendText(Hello);
+    QTRY_COMPARE(reader.texts().size(), 1);
+    m_site->server.reset(site);
+    const qint64 end = m_site->clock.nowMs() / 1000 + 60;
+    std::vector<SiteCommand> commands;
+    for (const Camera &camera : station.cameras)
+        commands.push_back({ServerNames::SetSnooze, snoozeRequest(camera.id, end), {}});
+    m_site->server.executeAll(commands);
+    QTRY_COMPARE(reader.texts().size(), 1 + 2 * Count);
+    qsizetype bytes = 0;
+    for (const QByteArray &text : reader.texts())
+        bytes += text.size();
+    QVERIFY2(bytes < 1024 * 1024, qPrintable(QString::number(bytes)));
 }
 
 void tst_ServerGate::gateMayGoWithItsClients()

@@ -34,7 +34,8 @@ void tst_ServerMessages::messagesComeThroughUnchanged_data()
     const auto row = [](const char *name, const QString &text) { QTest::newRow(name) << text; };
     row("welcome", toText(ServerMessage::Welcome{testSite(),
                                                  {{QStringLiteral("south"), 4, 253'402'300'799}}}));
-    row("refused", toText(ServerMessage::Refused{QStringLiteral("full")}));
+    row("refused", toText(ServerMessage::Refused{QStringLiteral("wrong"), true}));
+    row("sent away", toText(ServerMessage::Refused{QStringLiteral("full"), false}));
     row("result", toText(ServerMessage::Result{3, QStringLiteral("0"), QVariant(7)}));
     row("result without data", toText(ServerMessage::Result{0, QStringLiteral("x"), {}}));
     row("camera", toText(ServerMessage::NodeStatus{NodeType::Camera, QStringLiteral("a/b"), true}));
@@ -43,9 +44,8 @@ void tst_ServerMessages::messagesComeThroughUnchanged_data()
     row("camera removed", toText(ServerMessage::CameraRemoved{QStringLiteral("a/b")}));
     row("station removed", toText(ServerMessage::StationRemoved{QStringLiteral("a")}));
     row("storage", toText(ServerMessage::StorageChanged{testSite().stations.front()}));
-    row("snoozes", toText(ServerMessage::Snoozes{
-                       {{QStringLiteral("north/c1"), 3, 100}, {QStringLiteral("south"), 4, 200}}}));
-    row("no snoozes", toText(ServerMessage::Snoozes{}));
+    row("snoozed", toText(ServerMessage::Snoozed{{QStringLiteral("north/c1"), 3, 100}}));
+    row("snooze ended", toText(ServerMessage::SnoozeEnded{QStringLiteral("south")}));
     row("event", toText(ServerMessage::Event{QStringLiteral("E"), QStringLiteral("data"),
                                              QStringLiteral("a")}));
     row("event of the server", toText(ServerMessage::Event{QStringLiteral("E"), {}, {}}));
@@ -97,7 +97,7 @@ void tst_ServerMessages::malformedMessagesAreRefused_data()
     row("no JSON", "welcome", "message: line 1: expected valid JSON, found: illegal value");
     row("unknown type", R"({"type":"hello"})",
         "message: type: expected one of cameraRemoved, event, nodeStatus, refused, result, "
-        "snoozes, "
+        "snoozeEnded, snoozed, "
         "stationRemoved, storageChanged, welcome, found \"hello\"");
     row("site without stations", R"({"type":"welcome","site":{"name":"S"}})",
         "message: site.stations: expected a list of objects, found nothing");
@@ -106,11 +106,17 @@ void tst_ServerMessages::malformedMessagesAreRefused_data()
         R"("cameras":[{"id":"a/b","name":"B"}]}]}})",
         "message: site.stations[0].cameras[0].id: expected an id without \"/\", found \"a/b\"");
     row("snooze of another kind",
-        R"({"type":"snoozes","snoozes":[{"nodeID":"a","type":5,"timestamp":1}]})",
-        "message: snoozes[0].type: expected a whole number from 3 to 4, found the number 5");
+        R"({"type":"snoozed","snooze":{"nodeID":"a","type":5,"timestamp":1}})",
+        "message: snooze.type: expected a whole number from 3 to 4, found the number 5");
     row("status of nothing", R"({"type":"nodeStatus","connected":true})",
         "message: station: expected a text, found nothing");
-    row("status of two", R"({"type":"nodeStatus","camera":"a/b","station":"a"})",
+    row("status that is not told", R"({"type":"nodeStatus","camera":"a/b"})",
+        "message: connected: expected true or false, found nothing");
+    row("status as a text", R"({"type":"nodeStatus","camera":"a/b","connected":"yes"})",
+        "message: connected: expected true or false, found \"yes\"");
+    row("refusal that may be final or not", R"({"type":"refused","reason":"r"})",
+        "message: final: expected true or false, found nothing");
+    row("status of two", R"({"type":"nodeStatus","camera":"a/b","connected":true,"station":"a"})",
         "message: station: expected one of the keys camera, connected, type, found an unknown key");
     row("result without a code", R"({"type":"result","id":1})",
         "message: code: expected a text, found nothing");

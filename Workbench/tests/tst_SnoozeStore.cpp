@@ -64,7 +64,9 @@ private Q_SLOTS:
     void newFileIsEmpty();
     void keepsSnoozesForLater();
     void laterSnoozeOfANodeReplacesTheEarlier();
+    void snoozesAreSetTogether();
     void removedSnoozesAreGone();
+    void eachChangeIsSyncedToTheDisk();
     void anyTextMayBeAnId();
     void fileCanBeReadWithOrdinaryTools();
 
@@ -99,8 +101,8 @@ void tst_SnoozeStore::keepsSnoozesForLater()
 {
     {
         SnoozeStore store(path("kept.sqlite"));
-        QVERIFY(store.set({QStringLiteral("south"), 4, 253'402'300'799}));
-        QVERIFY(store.set({QStringLiteral("north/c1"), 3, 1'780'660'800}));
+        QVERIFY(store.set({{QStringLiteral("south"), 4, 253'402'300'799}}));
+        QVERIFY(store.set({{QStringLiteral("north/c1"), 3, 1'780'660'800}}));
         QCOMPARE(store.snoozes().size(), std::size_t(2));
     }
     QCOMPARE(contentsOf(path("kept.sqlite")),
@@ -111,9 +113,34 @@ void tst_SnoozeStore::keepsSnoozesForLater()
 void tst_SnoozeStore::laterSnoozeOfANodeReplacesTheEarlier()
 {
     SnoozeStore store(path("replaced.sqlite"));
-    QVERIFY(store.set({QStringLiteral("a"), 3, 100}));
-    QVERIFY(store.set({QStringLiteral("a"), 4, 50}));
+    QVERIFY(store.set({{QStringLiteral("a"), 3, 100}}));
+    QVERIFY(store.set({{QStringLiteral("a"), 4, 50}}));
     QCOMPARE(printed(store.snoozes()), QStringList{QStringLiteral("a 4 50")});
+}
+
+void tst_SnoozeStore::snoozesAreSetTogether()
+{
+    SnoozeStore store(path("together.sqlite"));
+    QVERIFY(store.set({}));
+    QVERIFY(store.set({{QStringLiteral("b"), 3, 100}, {QStringLiteral("a"), 4, 50}}));
+    QCOMPARE(printed(store.snoozes()),
+             QStringList({QStringLiteral("a 4 50"), QStringLiteral("b 3 100")}));
+}
+
+// No kill of a process shows this: what it has written is the system's, which only a power cut
+// takes back. Both are settings of the connection, so it is the store's own that is asked.
+void tst_SnoozeStore::eachChangeIsSyncedToTheDisk()
+{
+    const QStringList before = QSqlDatabase::connectionNames();
+    const SnoozeStore store(path("synced.sqlite"));
+    QStringList own = QSqlDatabase::connectionNames();
+    own.removeIf([&before](const QString &name) { return before.contains(name); });
+    QCOMPARE(own.size(), 1);
+    QSqlQuery query(QSqlDatabase::database(own.constFirst()));
+    QVERIFY(query.exec(QStringLiteral("PRAGMA synchronous")) && query.next());
+    QCOMPARE(query.value(0).toInt(), 2);
+    QVERIFY(query.exec(QStringLiteral("PRAGMA journal_mode")) && query.next());
+    QCOMPARE(query.value(0).toString(), QStringLiteral("wal"));
 }
 
 void tst_SnoozeStore::removedSnoozesAreGone()
@@ -121,7 +148,7 @@ void tst_SnoozeStore::removedSnoozesAreGone()
     {
         SnoozeStore store(path("removed.sqlite"));
         for (const char *const id : {"a", "b", "c"})
-            store.set({QString::fromLatin1(id), 3, 100});
+            store.set({{QString::fromLatin1(id), 3, 100}});
         QVERIFY(store.remove({QStringLiteral("a"), QStringLiteral("c"), QStringLiteral("none")}));
         QVERIFY(store.remove({}));
     }
@@ -133,7 +160,7 @@ void tst_SnoozeStore::anyTextMayBeAnId()
     const QString id = QStringLiteral("Süd '; DROP TABLE snoozes; -- \"%1\"");
     {
         SnoozeStore store(path("text.sqlite"));
-        QVERIFY(store.set({id, 3, 100}));
+        QVERIFY(store.set({{id, 3, 100}}));
     }
     QCOMPARE(contentsOf(path("text.sqlite")), QStringList{id + QStringLiteral(" 3 100")});
 }
@@ -142,7 +169,7 @@ void tst_SnoozeStore::fileCanBeReadWithOrdinaryTools()
 {
     {
         SnoozeStore store(path("tools.sqlite"));
-        store.set({QStringLiteral("a"), 3, 100});
+        store.set({{QStringLiteral("a"), 3, 100}});
     }
     runSql(path("tools.sqlite"), {QStringLiteral("UPDATE snoozes SET end_seconds = 200 "
                                                  "WHERE node_id = 'a' AND error_type = 3")});
@@ -194,7 +221,7 @@ void tst_SnoozeStore::damagedFilesAreRefusedAndLeftAlone()
     {
         SnoozeStore store(fileName);
         for (int i = 0; i < 12; ++i)
-            store.set({QString(1000, QChar(u'a' + i)), 3, 100});
+            store.set({{QString(1000, QChar(u'a' + i)), 3, 100}});
     }
     QByteArray bytes = bytesOf(fileName);
     QVERIFY(bytes.size() > 8192);
@@ -251,18 +278,18 @@ void tst_SnoozeStore::failedWriteIsReportedAndChangesNothing()
     const QString fileName = path("full.sqlite");
     {
         SnoozeStore store(fileName);
-        QVERIFY(store.set({QStringLiteral("a"), 3, 100}));
+        QVERIFY(store.set({{QStringLiteral("a"), 3, 100}}));
         const QString warning = fileName + QStringLiteral(": cannot be written: ");
         {
             const FullDisk disk(512);
             for (int i = 0; i < 2; ++i)
                 QTest::ignoreMessage(QtWarningMsg,
                                      QRegularExpression(QRegularExpression::escape(warning)));
-            QVERIFY(!store.set({QStringLiteral("b"), 3, 100}));
+            QVERIFY(!store.set({{QStringLiteral("b"), 3, 100}}));
             QVERIFY(!store.remove({QStringLiteral("a")}));
         }
         QCOMPARE(printed(store.snoozes()), QStringList{QStringLiteral("a 3 100")});
-        QVERIFY(store.set({QStringLiteral("c"), 3, 100}));
+        QVERIFY(store.set({{QStringLiteral("c"), 3, 100}}));
     }
     QCOMPARE(contentsOf(fileName),
              QStringList({QStringLiteral("a 3 100"), QStringLiteral("c 3 100")}));

@@ -1,5 +1,6 @@
 #include "Workbench.h"
 
+#include "DeliverEvents.h"
 #include "PluginBase.h"
 #include "ServerLink.h"
 #include "WorkbenchFixture.h"
@@ -78,7 +79,7 @@ void tst_Workbench::play(const Scenario &scenario)
 
 QStringList tst_Workbench::takeLog()
 {
-    QCoreApplication::sendPostedEvents();
+    deliverEvents();
     QStringList log;
     QMetaObject::invokeMethod(m_fixture->host.plugin(), "takeLog", Q_RETURN_ARG(QStringList, log));
     return log;
