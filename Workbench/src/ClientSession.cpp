@@ -39,7 +39,7 @@ ClientSession::ClientSession(std::unique_ptr<QWebSocket> socket, const AccessTok
     connect(m_socket.get(), &QWebSocket::pong, &m_heartbeat, &Heartbeat::heard);
     connect(&m_heartbeat, &Heartbeat::pingDue, this, [this] { m_socket->ping(); });
     connect(&m_heartbeat, &Heartbeat::fellSilent, this, [this] { m_socket->abort(); });
-    clock.callAt(clock.nowMs() + HelloMs, this, [this] {
+    clock.callAfter(HelloMs, this, [this] {
         if (m_phase == Phase::Unknown)
             sendAway(tr("expected a hello within %1 seconds").arg(HelloMs / 1000));
     });
@@ -83,7 +83,7 @@ void ClientSession::end(const ServerMessage::Refused &refusal)
         return;
     m_phase = Phase::Refused;
     m_heartbeat.stop();
-    m_clock.callAt(m_clock.nowMs() + FarewellMs, this, [this] { m_socket->abort(); });
+    m_clock.callAfter(FarewellMs, this, [this] { m_socket->abort(); });
     m_socket->sendTextMessage(toText(refusal));
     m_socket->close(refusal.isFinal ? QWebSocketProtocol::CloseCodePolicyViolated : TryAgainLater);
 }

@@ -27,6 +27,15 @@ public:
     /// @param timeMs  milliseconds since the epoch; a time that has passed is due at once
     /// @param context no call is made after this object is gone
     virtual void callAt(qint64 timeMs, QObject *context, std::function<void()> call) = 0;
+
+    /// How long the clock has been running, in milliseconds. Unlike nowMs(), it follows nobody who
+    /// sets the system's clock: what lasts is measured by it.
+    virtual qint64 elapsedMs() const = 0;
+
+    /// Makes a call from the event loop after some milliseconds of elapsedMs().
+    ///
+    /// @param context no call is made after this object is gone
+    virtual void callAfter(qint64 ms, QObject *context, std::function<void()> call) = 0;
 };
 
 #endif

@@ -30,6 +30,6 @@ void Heartbeat::beat()
         return;
     }
     ++m_unanswered;
-    m_clock.callAt(m_clock.nowMs() + m_pace.intervalMs, m_run.get(), [this] { beat(); });
+    m_clock.callAfter(m_pace.intervalMs, m_run.get(), [this] { beat(); });
     Q_EMIT pingDue();
 }

@@ -66,8 +66,8 @@ void RemoteServerLink::tryNow()
             [this](const QString &text) { take(text); });
     connect(m_socket.get(), &QWebSocket::pong, &m_heartbeat, &Heartbeat::heard);
     m_wait = std::make_unique<QObject>();
-    m_clock.callAt(m_clock.nowMs() + AttemptMs, m_wait.get(),
-                   [this] { retryLater(tr("the server does not answer")); });
+    m_clock.callAfter(AttemptMs, m_wait.get(),
+                      [this] { retryLater(tr("the server does not answer")); });
     m_socket->open(m_url);
 }
 
@@ -88,7 +88,7 @@ void RemoteServerLink::retryLater(const QString &reason)
 {
     const qint64 pauseMs = m_pauses.takeNextMs();
     m_wait = std::make_unique<QObject>();
-    m_clock.callAt(m_clock.nowMs() + pauseMs, m_wait.get(), [this] { tryNow(); });
+    m_clock.callAfter(pauseMs, m_wait.get(), [this] { tryNow(); });
     drop();
     Q_EMIT attemptFailed(reason, pauseMs);
 }
@@ -124,8 +124,9 @@ void RemoteServerLink::take(const QString &text)
 
 void RemoteServerLink::take(const ServerMessage::Welcome &welcome)
 {
-    m_wait.reset();
-    m_pauses.reset();
+    // A server that welcomes and then fails is not to be asked several times a second.
+    m_wait = std::make_unique<QObject>();
+    m_clock.callAfter(ProvenMs, m_wait.get(), [this] { m_pauses.reset(); });
     m_site = welcome.site;
     m_snoozes.clear();
     for (const Snooze &snooze : welcome.snoozes)

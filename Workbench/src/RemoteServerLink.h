@@ -28,6 +28,10 @@ public:
     /// How long a try may take until the server's welcome, in milliseconds.
     static constexpr qint64 AttemptMs = 2500;
 
+    /// How long a connection has to hold until its loss is followed by a short pause again, in
+    /// milliseconds.
+    static constexpr qint64 ProvenMs = 15'000;
+
     /// A server that answers nothing is noticed after 2 to 2.5 seconds.
     static constexpr Heartbeat::Pace Pace{500, 4};
 

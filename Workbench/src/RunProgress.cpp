@@ -1,6 +1,6 @@
 #include "RunProgress.h"
 
-#include "Clock.h"
+#include "ScenarioDriver.h"
 
 #include <chrono>
 
@@ -10,11 +10,9 @@ constexpr qint64 MsPerSecond = 1000;
 
 } // namespace
 
-RunProgress::RunProgress(StatusLine line, const Clock &clock, qint64 endMs)
+RunProgress::RunProgress(StatusLine line, const ScenarioDriver &driver)
     : m_line(std::move(line))
-    , m_clock(clock)
-    , m_startMs(clock.nowMs())
-    , m_endMs(endMs)
+    , m_driver(driver)
 {
     connect(&m_timer, &QTimer::timeout, this, &RunProgress::show);
     m_timer.start(std::chrono::seconds(1));
@@ -27,11 +25,18 @@ RunProgress::~RunProgress()
 
 void RunProgress::show() const
 {
-    const qint64 passedMs = m_clock.nowMs() - m_startMs;
-    if (passedMs < m_endMs)
-        m_line.show(tr("%1 of %2 s of the scenario")
-                        .arg(passedMs / MsPerSecond)
-                        .arg(m_endMs / MsPerSecond));
-    else
-        m_line.show(tr("waiting for the error list to come to rest"));
+    m_line.show(text());
+}
+
+// The scenario starts once the server is connected.
+QString RunProgress::text() const
+{
+    const std::optional<qint64> elapsedMs = m_driver.elapsedMs();
+    if (!elapsedMs)
+        return tr("waiting for the server");
+    if (*elapsedMs >= m_driver.endMs())
+        return tr("waiting for the error list to come to rest");
+    return tr("%1 of %2 s of the scenario")
+        .arg(*elapsedMs / MsPerSecond)
+        .arg(m_driver.endMs() / MsPerSecond);
 }

@@ -6,28 +6,26 @@
 #include <QObject>
 #include <QTimer>
 
-class Clock;
+class ScenarioDriver;
 
-/// Shows each second how far a scenario has been played, until the object is gone.
+/// Shows each second how far a scenario has been played, or what it waits for, until the object is
+/// gone.
 class RunProgress : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Starts now.
-    ///
-    /// @param clock gives the time of the scenario; it must outlive the object
-    /// @param endMs when the scenario ends, from its start
-    RunProgress(StatusLine line, const Clock &clock, qint64 endMs);
+    /// @param driver plays the scenario; it must outlive the object
+    RunProgress(StatusLine line, const ScenarioDriver &driver);
     ~RunProgress() override;
 
     void show() const;
 
 private:
+    QString text() const;
+
     const StatusLine m_line;
-    const Clock &m_clock;
-    const qint64 m_startMs;
-    const qint64 m_endMs;
+    const ScenarioDriver &m_driver;
     QTimer m_timer;
 };
 

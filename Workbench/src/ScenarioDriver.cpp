@@ -13,11 +13,11 @@ ScenarioDriver::ScenarioDriver(Scenario scenario, Clock &clock, QObject *parent)
 
 void ScenarioDriver::start()
 {
-    m_startMs = m_clock.nowMs();
+    m_startMs = m_clock.elapsedMs();
     m_next = 0;
     m_isHeld = false;
     m_isScreenshotDue = m_scenario.screenshotAtMs.has_value();
-    m_clock.callAt(m_startMs, this, [this] { advance(); });
+    m_clock.callAfter(0, this, [this] { advance(); });
 }
 
 void ScenarioDriver::hold()
@@ -29,14 +29,21 @@ void ScenarioDriver::resume()
 {
     if (!std::exchange(m_isHeld, false))
         return;
-    m_startMs = m_clock.nowMs() - m_scenario.events[m_next - 1].atMs;
-    m_clock.callAt(m_clock.nowMs(), this, [this] { advance(); });
+    m_startMs = m_clock.elapsedMs() - m_scenario.events[m_next - 1].atMs;
+    m_clock.callAfter(0, this, [this] { advance(); });
+}
+
+std::optional<qint64> ScenarioDriver::elapsedMs() const
+{
+    if (!m_startMs)
+        return std::nullopt;
+    return m_isHeld ? m_scenario.events[m_next - 1].atMs : m_clock.elapsedMs() - *m_startMs;
 }
 
 void ScenarioDriver::advance()
 {
     const std::vector<ScenarioEvent> &events = m_scenario.events;
-    const qint64 elapsed = m_clock.nowMs() - m_startMs;
+    const qint64 elapsed = m_clock.elapsedMs() - *m_startMs;
     qint64 wakeUp = m_scenario.endMs;
 
     while (!m_isHeld && m_next < events.size() && events[m_next].atMs <= elapsed)
@@ -56,5 +63,5 @@ void ScenarioDriver::advance()
     if (elapsed >= m_scenario.endMs)
         Q_EMIT finished();
     else
-        m_clock.callAt(m_startMs + wakeUp, this, [this] { advance(); });
+        m_clock.callAfter(wakeUp - elapsed, this, [this] { advance(); });
 }

@@ -26,6 +26,12 @@ public:
     /// Makes the scenario's time stand still, from within due(): what comes next waits.
     void hold();
 
+    /// How far the scenario is, in milliseconds from its start; nothing before that.
+    std::optional<qint64> elapsedMs() const;
+
+    /// When it ends, in milliseconds from its start.
+    qint64 endMs() const { return m_scenario.endMs; }
+
     /// Lets time go on from where hold() stopped it. Without a hold() nothing happens.
     void resume();
 
@@ -40,8 +46,8 @@ private:
 
     const Scenario m_scenario;
     Clock &m_clock;
-    qint64 m_startMs = 0;
-    std::size_t m_next = 0; // event
+    std::optional<qint64> m_startMs; // on the clock that elapses; nothing before the start
+    std::size_t m_next = 0;          // event
     bool m_isScreenshotDue = false;
     bool m_isHeld = false;
 };

@@ -147,7 +147,7 @@ int ScenarioRun::playHeadless(Screenshot *screenshot)
     QTextStream out(stdout);
     const std::unique_ptr<RunReport> report = createReport(m_options.format, out, m_clock);
     report->follow(m_workbench);
-    const RunProgress progress(StatusLine::onStandardError(), m_clock, m_scenario.endMs);
+    const RunProgress progress(StatusLine::onStandardError(), m_workbench.driver());
     const int code = HeadlessRun(m_workbench, *report, screenshot).exec();
     return code == ExitCode::ErrorsRemain && m_options.ignoresErrors ? ExitCode::Success : code;
 }

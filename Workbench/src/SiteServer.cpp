@@ -18,7 +18,7 @@ SiteServer::SiteServer(Site site, Clock &clock, SnoozeStore *store, QObject *par
     , m_site(std::move(site))
 {
     loadSnoozes();
-    m_clock.callAt(m_clock.nowMs() + ReportIntervalMs, this, [this] { reportAll(); });
+    m_clock.callAfter(ReportIntervalMs, this, [this] { reportAll(); });
 }
 
 std::vector<Snooze> SiteServer::snoozes() const
@@ -193,5 +193,5 @@ void SiteServer::reportAll()
             reportResources(station.id,
                             livelyReport(*station.resources, qHash(station.id), m_reportCount));
     });
-    m_clock.callAt(m_clock.nowMs() + ReportIntervalMs, this, [this] { reportAll(); });
+    m_clock.callAfter(ReportIntervalMs, this, [this] { reportAll(); });
 }

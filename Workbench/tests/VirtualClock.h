@@ -16,49 +16,67 @@ public:
     /// 2026-06-05 12:00:00 UTC
     static constexpr qint64 StartMs = 1'780'660'800'000;
 
-    qint64 nowMs() const override { return m_nowMs; }
+    qint64 nowMs() const override { return m_elapsedMs + m_offsetMs; }
 
     void callAt(qint64 timeMs, QObject *context, std::function<void()> call) override
     {
-        m_calls.push_back({timeMs, context, std::move(call)});
+        m_calls.push_back({timeMs, true, context, std::move(call)});
+    }
+
+    qint64 elapsedMs() const override { return m_elapsedMs; }
+
+    void callAfter(qint64 ms, QObject *context, std::function<void()> call) override
+    {
+        m_calls.push_back({m_elapsedMs + ms, false, context, std::move(call)});
     }
 
     /// Makes the calls that fall due, each at its time, with the events in between delivered.
     void advance(qint64 ms)
     {
-        const qint64 end = m_nowMs + ms;
+        const qint64 end = m_elapsedMs + ms;
         QCoreApplication::sendPostedEvents();
-        for (auto next = earliest(); next != m_calls.end() && next->timeMs <= end;
+        for (auto next = earliest(); next != m_calls.end() && dueMs(*next) <= end;
              next = earliest()) {
             const Call due = *next;
+            m_elapsedMs = std::max(m_elapsedMs, dueMs(due));
             m_calls.erase(next);
-            m_nowMs = std::max(m_nowMs, due.timeMs);
             if (due.context)
                 due.call();
             QCoreApplication::sendPostedEvents();
         }
-        m_nowMs = end;
+        m_elapsedMs = end;
     }
 
     /// Moves on without making the calls that fall due, as when the program is busy.
-    void leap(qint64 ms) { m_nowMs += ms; }
+    void leap(qint64 ms) { m_elapsedMs += ms; }
+
+    /// Sets the time of day, as a user does, by some milliseconds.
+    void set(qint64 byMs) { m_offsetMs += byMs; }
 
 private:
     struct Call
     {
         qint64 timeMs;
+        bool isTimeOfDay;
         QPointer<QObject> context;
         std::function<void()> call;
     };
+
+    // When a call is due, of what elapses.
+    qint64 dueMs(const Call &call) const
+    {
+        return call.isTimeOfDay ? call.timeMs - m_offsetMs : call.timeMs;
+    }
 
     std::list<Call>::iterator earliest()
     {
         return std::min_element(
             m_calls.begin(), m_calls.end(),
-            [](const Call &left, const Call &right) { return left.timeMs < right.timeMs; });
+            [this](const Call &left, const Call &right) { return dueMs(left) < dueMs(right); });
     }
 
-    qint64 m_nowMs = StartMs;
+    qint64 m_elapsedMs = 0;
+    qint64 m_offsetMs = StartMs;
     std::list<Call> m_calls; // in the order in which they were asked for
 };
 

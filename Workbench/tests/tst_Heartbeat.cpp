@@ -18,6 +18,7 @@ private Q_SLOTS:
     void delayOfThisProcessIsNoSilence();
     void stoppedHeartbeatIsStill();
     void startsAnew();
+    void clockThatIsSetBackDelaysNothing();
 
 private:
     QStringList beats(qint64 ms);
@@ -93,6 +94,14 @@ void tst_Heartbeat::startsAnew()
     beats(250);
     m_heartbeat->start();
     QCOMPARE(beats(299), QStringList(3, QStringLiteral("ping")));
+}
+
+void tst_Heartbeat::clockThatIsSetBackDelaysNothing()
+{
+    m_heartbeat->start();
+    beats(0);
+    m_clock->set(-3'600'000);
+    QCOMPARE(beats(100), QStringList{QStringLiteral("ping")});
 }
 
 QTEST_GUILESS_MAIN(tst_Heartbeat)

@@ -12,6 +12,7 @@
 #include <QWebSocket>
 #include <QWebSocketServer>
 
+#include <functional>
 #include <memory>
 
 namespace {
@@ -37,6 +38,11 @@ public:
         m_client->sendTextMessage(text);
         return true;
     }
+
+    // Says something to the client of the last time.
+    void say(const ServerMessage::Event &event) { m_client->sendTextMessage(toText(event)); }
+
+    void hangUp() { m_client.reset(); }
 
 private:
     QWebSocketServer m_listener;
@@ -64,6 +70,7 @@ private Q_SLOTS:
 
     void missingServerIsTriedAgainAfterGrowingPauses();
     void lostServerIsFoundAgain();
+    void pausesGrowUntilAConnectionHolds();
     void serverThatNeverWelcomesIsGivenUp();
     void silentServerIsNoticed();
     void answeringServerIsKept();
@@ -294,6 +301,37 @@ void tst_RemoteServerLink::lostServerIsFoundAgain()
     m_link.reset();
 }
 
+void tst_RemoteServerLink::pausesGrowUntilAConnectionHolds()
+{
+    FakeServer server;
+    linkTo(server.url());
+    m_link->open();
+    const QString welcome = toText(ServerMessage::Welcome{testSite(), {}});
+    const auto failsAfter = [&](int pauseMs, const std::function<void()> &meanwhile = {}) {
+        if (!server.say(welcome) || !QTest::qWaitFor([this] { return m_link->isOpen(); }))
+            return false;
+        if (meanwhile)
+            meanwhile();
+        m_log.take();
+        server.hangUp();
+        const bool hasFailed = waitForLog(
+            QStringLiteral("failed: the server has closed the connection, %1").arg(pauseMs));
+        m_clock->advance(pauseMs);
+        return hasFailed;
+    };
+    for (const int pauseMs : {250, 500, 1000})
+        QVERIFY2(failsAfter(pauseMs), qPrintable(m_log.lines().join(u'|')));
+    const auto hold = [this, &server] {
+        for (qint64 ms = 0; ms < RemoteServerLink::ProvenMs; ms += 500) {
+            m_clock->advance(500);
+            server.say(ServerMessage::Event{QStringLiteral("E"), {}, {}});
+            waitForLog(QStringLiteral("E  from ''"));
+            m_log.take();
+        }
+    };
+    QVERIFY(failsAfter(250, hold));
+}
+
 // As a stopped process does: the system accepts the connection, and nothing follows.
 void tst_RemoteServerLink::serverThatNeverWelcomesIsGivenUp()
 {
@@ -302,6 +340,7 @@ void tst_RemoteServerLink::serverThatNeverWelcomesIsGivenUp()
     linkTo(QUrl(QStringLiteral("ws://127.0.0.1:%1").arg(mute.serverPort())));
     m_link->open();
     QVERIFY(QTest::qWaitFor([&mute] { return mute.hasPendingConnections(); }));
+    m_clock->set(-3'600'000);
     m_clock->advance(RemoteServerLink::AttemptMs - 1);
     QCOMPARE(m_log.take(), QStringList());
     m_clock->advance(1);

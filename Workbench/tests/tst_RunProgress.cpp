@@ -1,5 +1,6 @@
 #include "RunProgress.h"
 
+#include "ScenarioDriver.h"
 #include "VirtualClock.h"
 
 #include <QRegularExpression>
@@ -18,7 +19,9 @@ class tst_RunProgress : public QObject
 private Q_SLOTS:
     void init();
 
+    void tellsThatItWaitsForTheServer();
     void tellsHowFarTheScenarioIs();
+    void heldScenarioStandsStill();
     void tellsWhatIsWaitedForAfterTheEnd();
     void lineIsTakenAwayInTheEnd();
     void nothingIsShownWithoutATerminal();
@@ -39,9 +42,31 @@ void tst_RunProgress::init()
     m_written.clear();
 }
 
+void tst_RunProgress::tellsThatItWaitsForTheServer()
+{
+    const ScenarioDriver driver({{}, {}, 52'000}, m_clock);
+    const RunProgress progress(line(), driver);
+    m_clock.leap(60'000);
+    progress.show();
+    QCOMPARE(m_written, StartAnew + "waiting for the server");
+}
+
+void tst_RunProgress::heldScenarioStandsStill()
+{
+    ScenarioDriver driver({{{3'000, ScenarioAction::ReconnectCameras{}}}, {}, 52'000}, m_clock);
+    connect(&driver, &ScenarioDriver::due, this, [&driver] { driver.hold(); });
+    const RunProgress progress(line(), driver);
+    driver.start();
+    m_clock.advance(60'000);
+    progress.show();
+    QCOMPARE(m_written, StartAnew + "3 of 52 s of the scenario");
+}
+
 void tst_RunProgress::tellsHowFarTheScenarioIs()
 {
-    const RunProgress progress(line(), m_clock, 52'000);
+    ScenarioDriver driver({{}, {}, 52'000}, m_clock);
+    const RunProgress progress(line(), driver);
+    driver.start();
     m_clock.leap(7'900);
     progress.show();
     QCOMPARE(m_written, StartAnew + "7 of 52 s of the scenario");
@@ -49,7 +74,9 @@ void tst_RunProgress::tellsHowFarTheScenarioIs()
 
 void tst_RunProgress::tellsWhatIsWaitedForAfterTheEnd()
 {
-    const RunProgress progress(line(), m_clock, 52'000);
+    ScenarioDriver driver({{}, {}, 52'000}, m_clock);
+    const RunProgress progress(line(), driver);
+    driver.start();
     m_clock.leap(52'000);
     progress.show();
     QCOMPARE(m_written, StartAnew + "waiting for the error list to come to rest");
@@ -58,7 +85,8 @@ void tst_RunProgress::tellsWhatIsWaitedForAfterTheEnd()
 void tst_RunProgress::lineIsTakenAwayInTheEnd()
 {
     {
-        const RunProgress progress(line(), m_clock, 1'000);
+        const ScenarioDriver driver({{}, {}, 1'000}, m_clock);
+        const RunProgress progress(line(), driver);
         progress.show();
     }
     QVERIFY(m_written.endsWith(StartAnew));

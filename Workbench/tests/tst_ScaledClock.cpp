@@ -13,6 +13,7 @@ private Q_SLOTS:
     void callsOnceTheTimeIsReached();
     void callsAreMadeFromTheEventLoop();
     void callsFollowTheirTimes();
+    void callsAfterAWhile();
     void noCallOnceTheContextIsGone();
 };
 
@@ -58,6 +59,22 @@ void tst_ScaledClock::callsFollowTheirTimes()
     clock.callAt(now + 30'000, this, [&calls] { calls.append(2); });
     clock.callAt(now + 10'000, this, [&calls] { calls.append(1); });
     QTRY_COMPARE(calls, QList<int>({1, 2}));
+}
+
+void tst_ScaledClock::callsAfterAWhile()
+{
+    ScaledClock clock(1000);
+    const qint64 start = clock.elapsedMs();
+    QList<int> calls;
+    qint64 calledAt = 0;
+    clock.callAfter(30'000, this, [&] {
+        calls.append(2);
+        calledAt = clock.elapsedMs();
+    });
+    clock.callAfter(10'000, this, [&calls] { calls.append(1); });
+    QCOMPARE(calls, QList<int>());
+    QTRY_COMPARE(calls, QList<int>({1, 2}));
+    QVERIFY(calledAt >= start + 30'000);
 }
 
 void tst_ScaledClock::noCallOnceTheContextIsGone()

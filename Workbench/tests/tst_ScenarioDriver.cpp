@@ -33,6 +33,7 @@ private Q_SLOTS:
     void canBePlayedAgain();
     void timeStandsStillWhileHeld();
     void resumeWithoutAHoldChangesNothing();
+    void clockThatIsSetChangesNothing();
 
 private:
     void follow(const ScenarioDriver &driver);
@@ -187,6 +188,24 @@ void tst_ScenarioDriver::resumeWithoutAHoldChangesNothing()
     driver.resume();
     clock.advance(1000);
     QCOMPARE(m_log.take(), QStringList({QStringLiteral("a"), QStringLiteral("finished")}));
+}
+
+void tst_ScenarioDriver::clockThatIsSetChangesNothing()
+{
+    VirtualClock clock;
+    ScenarioDriver driver({{focusAt(1000, "a"), focusAt(2000, "b")}, {}, 3000}, clock);
+    follow(driver);
+    QVERIFY(!driver.elapsedMs());
+    driver.start();
+    clock.set(-3'600'000);
+    clock.advance(1000);
+    QCOMPARE(m_log.take(), QStringList{QStringLiteral("a")});
+    clock.set(7'200'000);
+    clock.advance(999);
+    QCOMPARE(m_log.take(), QStringList());
+    QCOMPARE(driver.elapsedMs(), std::optional<qint64>(1999));
+    clock.advance(1);
+    QCOMPARE(m_log.take(), QStringList{QStringLiteral("b")});
 }
 
 QTEST_GUILESS_MAIN(tst_ScenarioDriver)
