@@ -2,6 +2,7 @@
 
 #include "InputError.h"
 
+#include <QDebug>
 #include <QDir>
 #include <QFileInfo>
 #include <QJsonArray>
@@ -11,6 +12,8 @@
 #include <QSqlQuery>
 #include <QUuid>
 
+#include <utility>
+
 namespace {
 
 constexpr const char *CreateTable = "CREATE TABLE IF NOT EXISTS operational_log ("
@@ -19,7 +22,13 @@ constexpr const char *CreateTable = "CREATE TABLE IF NOT EXISTS operational_log 
 constexpr const char *Insert =
     "INSERT INTO operational_log (time, name, parameters) VALUES (?, ?, ?)";
 constexpr const char *SelectNewestFirst =
-    "SELECT time, name, parameters FROM operational_log ORDER BY id DESC";
+    "SELECT time, name, parameters FROM operational_log ORDER BY id DESC LIMIT ?";
+constexpr const char *Prune =
+    "DELETE FROM operational_log WHERE id <= (SELECT max(id) FROM operational_log) - ?";
+constexpr const char *OtherTables =
+    "SELECT count(*) FROM sqlite_schema WHERE tbl_name <> 'operational_log'";
+
+constexpr int ApplicationId = 0x536e7a32; // tells this kind of file from other SQLite files
 
 QString toJson(const QVariantList &list)
 {
@@ -41,22 +50,16 @@ QString databaseName(const QString &fileName)
 } // namespace
 
 OperationalLogStore::OperationalLogStore(const QString &fileName)
-    : m_connectionName(QUuid::createUuid().toString())
+    : m_fileName(fileName)
+    , m_connectionName(QUuid::createUuid().toString())
 {
+    m_commitDue.setSingleShot(true);
+    QObject::connect(&m_commitDue, &QTimer::timeout, [this] { commit(); });
     if (!fileName.isEmpty())
         QDir().mkpath(QFileInfo(fileName).absolutePath());
-    QString failure;
-    {
-        QSqlDatabase database =
-            QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), m_connectionName);
-        database.setDatabaseName(databaseName(fileName));
-        QSqlQuery query(database);
-        if (!database.open())
-            failure = database.lastError().databaseText();
-        else if (!query.exec(QLatin1String(CreateTable)))
-            failure = query.lastError().databaseText();
-    }
-    if (!failure.isEmpty()) {
+    try {
+        open();
+    } catch (const QString &failure) {
         QSqlDatabase::removeDatabase(m_connectionName);
         throw InputError(
             tr("%1: cannot be used for the operational log: %2").arg(fileName, failure));
@@ -65,17 +68,81 @@ OperationalLogStore::OperationalLogStore(const QString &fileName)
 
 OperationalLogStore::~OperationalLogStore()
 {
+    commit();
     QSqlDatabase::removeDatabase(m_connectionName);
+}
+
+// Throws a text, and has written nothing then. Logs of earlier versions have no application id.
+//
+// A power cut may take the last entries, in exchange for which nobody waits for the disk.
+void OperationalLogStore::open()
+{
+    QSqlDatabase database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), m_connectionName);
+    database.setDatabaseName(databaseName(m_fileName));
+    if (!database.open())
+        throw database.lastError().databaseText();
+    const int id = run(QStringLiteral("PRAGMA application_id")).toInt();
+    if (id != ApplicationId && (id != 0 || run(QLatin1String(OtherTables)).toInt() > 0))
+        throw tr("an SQLite file of another kind");
+    run(QStringLiteral("PRAGMA journal_mode = WAL"));
+    run(QStringLiteral("PRAGMA synchronous = NORMAL"));
+    run(QLatin1String(CreateTable));
+    run(QStringLiteral("PRAGMA application_id = %1").arg(ApplicationId));
+    run(QLatin1String(Prune), MaxEntries);
+}
+
+// The first value of the result. Throws a text.
+QVariant OperationalLogStore::run(const QString &statement, const QVariant &value)
+{
+    QSqlQuery query(QSqlDatabase::database(m_connectionName));
+    bool isDone = query.prepare(statement);
+    if (isDone && value.isValid())
+        query.addBindValue(value);
+    isDone = isDone && query.exec();
+    if (!isDone)
+        throw query.lastError().databaseText();
+    return query.next() ? query.value(0) : QVariant();
+}
+
+// However many entries there are in one turn of the event loop, they are written together.
+void OperationalLogStore::commitLater()
+{
+    if (m_hasUncommitted)
+        return;
+    m_hasUncommitted = QSqlDatabase::database(m_connectionName).transaction();
+    m_commitDue.start(0);
+}
+
+void OperationalLogStore::commit()
+{
+    if (!std::exchange(m_hasUncommitted, false))
+        return;
+    QSqlDatabase database = QSqlDatabase::database(m_connectionName);
+    const bool isWritten = database.commit();
+    const QString failure = database.lastError().databaseText();
+    if (!isWritten)
+        database.rollback();
+    report(isWritten, failure);
+}
+
+// A full disk fails each entry; saying so once is enough.
+bool OperationalLogStore::report(bool isWritten, const QString &failure)
+{
+    if (!isWritten && !std::exchange(m_hasWarned, true))
+        qWarning().noquote() << tr("%1: cannot be written: %2").arg(m_fileName, failure);
+    return isWritten;
 }
 
 bool OperationalLogStore::add(const OperationalLogEntry &entry)
 {
+    commitLater();
     QSqlQuery query(QSqlDatabase::database(m_connectionName));
     query.prepare(QLatin1String(Insert));
     query.addBindValue(entry.time.toMSecsSinceEpoch());
     query.addBindValue(entry.name);
     query.addBindValue(toJson(entry.parameters));
-    return query.exec();
+    const bool isWritten = query.exec();
+    return report(isWritten, query.lastError().databaseText());
 }
 
 QList<OperationalLogEntry> OperationalLogStore::newest(int limit) const
@@ -89,7 +156,9 @@ OperationalLogStore::newest(int limit,
 {
     QSqlQuery query(QSqlDatabase::database(m_connectionName));
     query.setForwardOnly(true);
-    query.exec(QLatin1String(SelectNewestFirst));
+    query.prepare(QLatin1String(SelectNewestFirst));
+    query.addBindValue(MaxEntries);
+    query.exec();
     QList<OperationalLogEntry> entries;
     while (entries.size() < limit && query.next()) {
         const OperationalLogEntry entry{QDateTime::fromMSecsSinceEpoch(query.value(0).toLongLong()),

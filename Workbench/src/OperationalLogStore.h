@@ -5,6 +5,7 @@
 #include <QDateTime>
 #include <QList>
 #include <QString>
+#include <QTimer>
 #include <QVariantList>
 
 #include <functional>
@@ -19,6 +20,8 @@ struct OperationalLogEntry
 
 /// The operational log, kept in an SQLite file.
 ///
+/// Entries are written from the event loop, together with others of the same turn.
+///
 /// Table "operational_log": "id" (ascending), "time" (milliseconds since the epoch), "name", and
 /// "parameters" (a JSON list).
 class OperationalLogStore
@@ -26,15 +29,18 @@ class OperationalLogStore
     Q_DECLARE_TR_FUNCTIONS(OperationalLogStore)
 
 public:
+    /// Older entries are not searched, and go when the file is opened.
+    static constexpr int MaxEntries = 10'000;
+
     /// Opens a file, which is made if need be; an empty name keeps the log in memory. Throws
-    /// InputError when the file cannot be used.
+    /// InputError, and leaves the file as it is, when it is of another kind or cannot be used.
     explicit OperationalLogStore(const QString &fileName);
     ~OperationalLogStore();
 
     OperationalLogStore(const OperationalLogStore &) = delete;
     OperationalLogStore &operator=(const OperationalLogStore &) = delete;
 
-    /// Adds an entry; false when it could not be written.
+    /// Adds an entry; false, the first time with a warning, when it could not be written.
     bool add(const OperationalLogEntry &entry);
 
     /// The newest entries first.
@@ -45,7 +51,17 @@ public:
     newest(int limit, const std::function<bool(const OperationalLogEntry &)> &accepts) const;
 
 private:
-    QString m_connectionName;
+    void open();
+    QVariant run(const QString &statement, const QVariant &value = {});
+    void commitLater();
+    void commit();
+    bool report(bool isWritten, const QString &failure);
+
+    const QString m_fileName;
+    const QString m_connectionName;
+    QTimer m_commitDue;
+    bool m_hasUncommitted = false;
+    bool m_hasWarned = false;
 };
 
 #endif

@@ -23,6 +23,31 @@ QStringList names(const QList<OperationalLogEntry> &entries)
     return names;
 }
 
+// The first value of the last statement's result, as another program gets it.
+QVariant runSql(const QString &fileName, const QStringList &statements)
+{
+    QVariant value;
+    {
+        QSqlDatabase database =
+            QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), QStringLiteral("tool"));
+        database.setDatabaseName(fileName);
+        QSqlQuery query(database);
+        if (!database.open())
+            return {};
+        for (const QString &statement : statements)
+            query.exec(statement);
+        if (query.next())
+            value = query.value(0);
+    }
+    QSqlDatabase::removeDatabase(QStringLiteral("tool"));
+    return value;
+}
+
+QVariant valueOf(const QString &fileName, const QString &statement)
+{
+    return runSql(fileName, {statement});
+}
+
 } // namespace
 
 class tst_OperationalLogStore : public QObject
@@ -37,6 +62,10 @@ private Q_SLOTS:
     void fileCanBeReadWithOrdinaryTools();
     void folderIsMade();
     void unusableFilesAreNamed();
+    void filesOfOtherKindsAreLeftAlone();
+    void logsOfEarlierVersionsAreTakenUp();
+    void entriesOfOneTurnAreWrittenTogether();
+    void oldEntriesGoWhenTheFileIsOpened();
 };
 
 void tst_OperationalLogStore::keepsEntriesInMemory()
@@ -115,6 +144,56 @@ void tst_OperationalLogStore::unusableFilesAreNamed()
         QVERIFY2(message.startsWith(path + QStringLiteral(": cannot be used")),
                  qPrintable(message));
     }
+}
+
+void tst_OperationalLogStore::filesOfOtherKindsAreLeftAlone()
+{
+    const QTemporaryDir directory;
+    const QString file = directory.filePath(QStringLiteral("other.sqlite"));
+    runSql(file, {QStringLiteral("CREATE TABLE customers (name TEXT)")});
+    const QString message = inputFailure([&file] { const OperationalLogStore log(file); });
+    QCOMPARE(message, file
+                          + QStringLiteral(": cannot be used for the operational log: an SQLite "
+                                           "file of another kind"));
+    QCOMPARE(valueOf(file, QStringLiteral("SELECT count(*) FROM sqlite_schema")).toInt(), 1);
+}
+
+void tst_OperationalLogStore::logsOfEarlierVersionsAreTakenUp()
+{
+    const QTemporaryDir directory;
+    const QString file = directory.filePath(QStringLiteral("log.sqlite"));
+    OperationalLogStore(file).add(entry(1, QStringLiteral("a")));
+    runSql(file, {QStringLiteral("PRAGMA application_id = 0")});
+    QCOMPARE(names(OperationalLogStore(file).newest(10)), QStringList{QStringLiteral("a")});
+}
+
+void tst_OperationalLogStore::entriesOfOneTurnAreWrittenTogether()
+{
+    const QTemporaryDir directory;
+    const QString file = directory.filePath(QStringLiteral("log.sqlite"));
+    const QString count = QStringLiteral("SELECT count(*) FROM operational_log");
+    OperationalLogStore log(file);
+    QVERIFY(log.add(entry(1, QStringLiteral("a"))));
+    QVERIFY(log.add(entry(2, QStringLiteral("b"))));
+    QCOMPARE(log.newest(10).size(), 2);
+    QCOMPARE(valueOf(file, count).toInt(), 0);
+    QTRY_COMPARE(valueOf(file, count).toInt(), 2);
+    QVERIFY(log.add(entry(3, QStringLiteral("c"))));
+    QTRY_COMPARE(valueOf(file, count).toInt(), 3);
+}
+
+void tst_OperationalLogStore::oldEntriesGoWhenTheFileIsOpened()
+{
+    const QTemporaryDir directory;
+    const QString file = directory.filePath(QStringLiteral("log.sqlite"));
+    {
+        OperationalLogStore log(file);
+        for (int i = 0; i < OperationalLogStore::MaxEntries + 5; ++i)
+            log.add(entry(i, QStringLiteral("a")));
+    }
+    const OperationalLogStore log(file);
+    QCOMPARE(valueOf(file, QStringLiteral("SELECT min(time) FROM operational_log")).toInt(), 5);
+    QCOMPARE(log.newest(1).at(0).time.toMSecsSinceEpoch(), OperationalLogStore::MaxEntries + 4);
 }
 
 QTEST_GUILESS_MAIN(tst_OperationalLogStore)
