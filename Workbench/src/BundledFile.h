@@ -3,8 +3,8 @@
 
 #include <QString>
 
-/// What the user means by a name: the file, if there is one; otherwise the bundled JSON file of
-/// that name, if there is one; otherwise the file that is missing.
+/// What the user means by a name: the bundled JSON file of that name, if there is one, otherwise a
+/// file. A file that is named like a bundled one is meant by "./name".
 ///
 /// @param folder "sites" or "scenarios"
 QString bundledOrFile(const QString &folder, const QString &name);

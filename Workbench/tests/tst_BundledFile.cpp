@@ -10,7 +10,8 @@ class tst_BundledFile : public QObject
 
 private Q_SLOTS:
     void bundledFilesGoByTheirNames();
-    void filesComeFirst();
+    void nothingHidesABundledFile();
+    void pathsMeanFiles();
     void missingFilesKeepTheirNames();
 };
 
@@ -20,14 +21,22 @@ void tst_BundledFile::bundledFilesGoByTheirNames()
              QStringLiteral(":/workbench/scenarios/everything.json"));
 }
 
-void tst_BundledFile::filesComeFirst()
+// A folder may be called "default" by chance.
+void tst_BundledFile::nothingHidesABundledFile()
 {
     const TextFile file("{}", QStringLiteral("everything"));
     const QString before = QDir::currentPath();
     QDir::setCurrent(QFileInfo(file.path()).path());
     QCOMPARE(bundledOrFile(QStringLiteral("scenarios"), QStringLiteral("everything")),
-             QStringLiteral("everything"));
+             QStringLiteral(":/workbench/scenarios/everything.json"));
     QDir::setCurrent(before);
+}
+
+void tst_BundledFile::pathsMeanFiles()
+{
+    for (const char *const path : {"./everything", "../scenarios/everything", "/everything"})
+        QCOMPARE(bundledOrFile(QStringLiteral("scenarios"), QString::fromLatin1(path)),
+                 QString::fromLatin1(path));
 }
 
 void tst_BundledFile::missingFilesKeepTheirNames()

@@ -67,6 +67,7 @@ private Q_SLOTS:
     void bundledScenariosFitTheBundledSite_data();
     void bundledScenariosFitTheBundledSite();
     void allOfTheLargeSiteFlapsForAMinute();
+    void watchLearnsTheStatesOfAllNodes();
 };
 
 void tst_ScenarioFile::readsTimes()
@@ -413,6 +414,15 @@ void tst_ScenarioFile::allOfTheLargeSiteFlapsForAMinute()
             down.insert(change.cameraId);
     }
     QCOMPARE(down.size(), 100);
+}
+
+// Without them the plug-in lists nothing of what is down already.
+void tst_ScenarioFile::watchLearnsTheStatesOfAllNodes()
+{
+    const Scenario scenario =
+        readScenarioFile(QStringLiteral(":/workbench/scenarios/watch.json"), testSite());
+    QCOMPARE(scenario.events.size(), std::size_t(1));
+    QVERIFY(std::get<RetrieveStates>(scenario.events.at(0).action).success);
 }
 
 QTEST_GUILESS_MAIN(tst_ScenarioFile)
