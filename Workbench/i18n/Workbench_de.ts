@@ -289,6 +289,10 @@
         <source>%1 answers</source>
         <translation>%1 antwortet</translation>
     </message>
+    <message>
+        <source>there is no answer for %1, which may be snoozed or not</source>
+        <translation>keine Antwort zu %1; vielleicht zurückgestellt, vielleicht nicht</translation>
+    </message>
 </context>
 <context>
     <name>DashboardWindow</name>
@@ -539,6 +543,14 @@
     <message>
         <source>%1: cannot be used for the operational log: %2</source>
         <translation>%1: kann nicht für das Betriebsprotokoll verwendet werden: %2</translation>
+    </message>
+    <message>
+        <source>an SQLite file of another kind</source>
+        <translation>eine SQLite-Datei anderer Art</translation>
+    </message>
+    <message>
+        <source>%1: cannot be written: %2</source>
+        <translation>%1: kann nicht geschrieben werden: %2</translation>
     </message>
 </context>
 <context>
@@ -860,6 +872,10 @@ einem Szenario der Ereignisse und der Auslastung dieses Rechners.
         <source>waiting for the error list to come to rest</source>
         <translation>warten, bis die Fehlerliste zur Ruhe kommt</translation>
     </message>
+    <message>
+        <source>waiting for the server</source>
+        <translation>warten auf den Server</translation>
+    </message>
 </context>
 <context>
     <name>ScenarioFile</name>
@@ -928,6 +944,10 @@ einem Szenario der Ereignisse und der Auslastung dieses Rechners.
     <message>
         <source>the server has %1 clients already</source>
         <translation>der Server hat bereits %1 Clients</translation>
+    </message>
+    <message>
+        <source>too many connections wait for a hello</source>
+        <translation>zu viele Verbindungen warten auf eine Begrüßung</translation>
     </message>
 </context>
 <context>

@@ -17,10 +17,19 @@ QString number(int value)
     return QString::number(value).rightJustified(NumberWidth);
 }
 
-// A failed sample is negative.
-QString percentageText(int percentage)
+QString percentageText(const std::optional<int> &percentage)
 {
-    return percentage < 0 ? ConsoleReport::tr("unknown") : ConsoleReport::tr("%1%").arg(percentage);
+    return percentage ? ConsoleReport::tr("%1%").arg(*percentage) : ConsoleReport::tr("unknown");
+}
+
+// A server's names must not steer the terminal.
+QString harmless(QString text)
+{
+    for (QChar &character : text) {
+        if (character.category() == QChar::Other_Control)
+            character = QChar::ReplacementCharacter;
+    }
+    return text;
 }
 
 } // namespace
@@ -33,8 +42,8 @@ ConsoleReport::ConsoleReport(QTextStream &out, const Clock &clock, QObject *pare
 
 void ConsoleReport::writeLine(const QString &word, const QString &text)
 {
-    m_out << timeText(m_clock.nowMs()) << "  " << word.leftJustified(WordWidth) << ' ' << text
-          << Qt::endl;
+    m_out << timeText(m_clock.nowMs()) << "  " << word.leftJustified(WordWidth) << ' '
+          << harmless(text) << Qt::endl;
 }
 
 void ConsoleReport::writePicture(const QString &file, bool isSaved)
@@ -50,7 +59,7 @@ void ConsoleReport::writeSummary()
           << tr("listed").rightJustified(NumberWidth) << "  " << tr("error") << '\n';
     const auto writeCounts = [this](const ErrorTally::Counts &counts, const QString &name) {
         m_out << number(counts.raised) << number(counts.cleared) << number(counts.listed()) << "  "
-              << name << '\n';
+              << harmless(name) << '\n';
     };
     for (const ErrorTally::Counts &counts : tally().counts())
         writeCounts(counts, counts.name);

@@ -45,6 +45,9 @@ void HeadlessRun::end()
 {
     takeScreenshot();
     m_report.writeSummary();
+    // Without a connection an empty list says nothing of the site.
+    if (!m_workbench.link().isOpen())
+        m_exitCode = ExitCode::Failure;
     if (m_exitCode == ExitCode::Success && !m_workbench.errorWatch().listed().isEmpty())
         m_exitCode = ExitCode::ErrorsRemain;
     QCoreApplication::exit(m_exitCode);

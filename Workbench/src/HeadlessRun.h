@@ -22,8 +22,8 @@ public:
     HeadlessRun(Workbench &workbench, RunReport &report, Screenshot *screenshot);
 
     /// Runs the application. Returns its exit code: ErrorsRemain when the error list is not empty
-    /// in the end, Failure when the picture could not be written or the server refused this client,
-    /// which weighs more.
+    /// in the end, Failure when the picture could not be written, the server refused this client or
+    /// there is no connection in the end, which weighs more.
     int exec();
 
 private:

@@ -45,18 +45,17 @@ QJsonObject countsByKind(const ErrorTally &tally)
     return kinds;
 }
 
-// A failed sample is negative.
-QJsonValue percentage(int sample)
+QJsonValue toJson(const std::optional<int> &percentage)
 {
-    return sample < 0 ? QJsonValue() : QJsonValue(sample);
+    return percentage ? QJsonValue(*percentage) : QJsonValue();
 }
 
 QJsonObject samplesObject(const SampleSummary &samples)
 {
     QJsonObject object{{QStringLiteral("count"), samples.count}};
     if (samples.count > 0) {
-        object.insert(QStringLiteral("lastCpu"), percentage(samples.lastCpu));
-        object.insert(QStringLiteral("lastMemory"), percentage(samples.lastMemory));
+        object.insert(QStringLiteral("lastCpu"), toJson(samples.lastCpu));
+        object.insert(QStringLiteral("lastMemory"), toJson(samples.lastMemory));
     }
     return object;
 }
@@ -88,7 +87,8 @@ void JsonReport::writeSummary()
     const QList<ListedError> listed = listedErrors();
     for (const ListedError &error : listed)
         errors.append(errorObject(error));
-    write(QStringLiteral("summary"), {{QStringLiteral("errors"), errors},
+    write(QStringLiteral("summary"), {{QStringLiteral("connected"), isConnected()},
+                                      {QStringLiteral("errors"), errors},
                                       {QStringLiteral("total"), countsObject(tally().total())},
                                       {QStringLiteral("kinds"), countsByKind(tally())},
                                       {QStringLiteral("samples"), samplesObject(samples())}});

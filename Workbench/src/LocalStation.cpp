@@ -1,5 +1,6 @@
 #include "LocalStation.h"
 
+#include "MachineSample.h"
 #include "SiteServer.h"
 
 #include <QSysInfo>
@@ -24,7 +25,7 @@ LocalStation::LocalStation(SiteServer &server, NetworkCounters counters, QObject
 
 void LocalStation::report(int cpu, int memory)
 {
-    if (cpu < 0)
+    if (!MachineSample::knownCpu(cpu) || !MachineSample::knownMemory(memory))
         return;
     m_server.reportResources(ThisMachineId,
                              {cpu, memory, m_meter.measure(m_counters.read(), m_time.elapsed())});

@@ -1,6 +1,7 @@
 #include "Metrics.h"
 
 #include "ErrorKind.h"
+#include "MachineSample.h"
 #include "OpenMetricsText.h"
 #include "PluginSurface.h"
 #include "ServerLink.h"
@@ -26,12 +27,6 @@ void addRatio(OpenMetricsText &out, const OpenMetricsText::Labels &labels,
     const double value = percentage.toDouble(&isNumber);
     if (isNumber && value >= 0)
         out.addSample(labels, value / PerCent);
-}
-
-// A failed sample is negative, or 0 where nothing less than all memory would be free.
-std::optional<int> known(int percentage, int least)
-{
-    return percentage < least ? std::nullopt : std::optional(percentage);
 }
 
 } // namespace
@@ -89,14 +84,14 @@ void Metrics::followServer()
 
 void Metrics::takeSample(int cpu, int memory)
 {
-    m_cpu = known(cpu, 0);
-    m_memory = known(memory, 1);
+    m_cpu = MachineSample::knownCpu(cpu);
+    m_memory = MachineSample::knownMemory(memory);
 }
 
 void Metrics::takeEvent(const QString &name, const QVariant &data, const QString &sourceId)
 {
     ++m_eventCounts[m_eventCounts.contains(name) ? name : OtherEvents];
-    if (name == ServerNames::SystemResChanged)
+    if (name == ServerNames::SystemResChanged && m_workbench.link().site().findStation(sourceId))
         m_reports.insert(sourceId, data.toMap());
 }
 

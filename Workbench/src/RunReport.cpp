@@ -2,6 +2,7 @@
 
 #include "ErrorWait.h"
 #include "Framework.h"
+#include "MachineSample.h"
 #include "OperationalLogPlugin.h"
 #include "PluginSurface.h"
 #include "ServerLink.h"
@@ -41,6 +42,7 @@ RunReport::RunReport(QObject *parent)
 void RunReport::follow(Workbench &workbench)
 {
     m_watch = &workbench.errorWatch();
+    m_link = &workbench.link();
     followErrors(*m_watch);
     connect(&workbench.errorWait(), &ErrorWait::gaveUp, this,
             [this](const QString &key) { writeWaitInVain(key); });
@@ -51,6 +53,11 @@ void RunReport::follow(Workbench &workbench)
 QList<ListedError> RunReport::listedErrors() const
 {
     return m_watch ? m_watch->listed() : QList<ListedError>();
+}
+
+bool RunReport::isConnected() const
+{
+    return m_link && m_link->isOpen();
 }
 
 void RunReport::followErrors(const ErrorListWatch &watch)
@@ -137,6 +144,6 @@ void RunReport::noticeResult(const QString &command, const QVariant &data,
 void RunReport::noticeSample(int cpu, int memory)
 {
     ++m_samples.count;
-    m_samples.lastCpu = cpu;
-    m_samples.lastMemory = memory;
+    m_samples.lastCpu = MachineSample::knownCpu(cpu);
+    m_samples.lastMemory = MachineSample::knownMemory(memory);
 }

@@ -4,8 +4,11 @@
 #include "ErrorTally.h"
 
 #include <QObject>
-#include <QVariantList>
 
+#include <QVariantList>
+#include <optional>
+
+class ServerLink;
 class Workbench;
 
 /// A server's answer to the wish to snooze a node.
@@ -20,13 +23,13 @@ struct SnoozeAnswer
     bool isLost() const;
 };
 
-/// How often this machine was sampled, and the last sample in percent. A figure that could not be
-/// sampled is negative.
+/// How often this machine was sampled, and the last sample in percent, without the figures that
+/// could not be sampled.
 struct SampleSummary
 {
     int count = 0;
-    int lastCpu = 0;
-    int lastMemory = 0;
+    std::optional<int> lastCpu;
+    std::optional<int> lastMemory;
 };
 
 /// Tells what happens in a Workbench, as it happens. Each subclass does so in a form of its own.
@@ -53,6 +56,8 @@ protected:
     const ErrorTally &tally() const { return m_tally; }
     const SampleSummary &samples() const { return m_samples; }
     QList<ListedError> listedErrors() const;
+    /// Whether there is a connection to the server.
+    bool isConnected() const;
 
 private:
     virtual void writeError(ErrorChange change, const ListedError &error) = 0;
@@ -88,6 +93,7 @@ private:
     void noticeSample(int cpu, int memory);
 
     const ErrorListWatch *m_watch = nullptr;
+    const ServerLink *m_link = nullptr;
     ErrorTally m_tally;
     SampleSummary m_samples;
 };

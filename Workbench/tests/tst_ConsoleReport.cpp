@@ -33,6 +33,7 @@ private Q_SLOTS:
     void writesWhatTheUserDoes();
     void writesRefusedSnoozes();
     void lostAnswerIsNoRefusal();
+    void namesDoNotSteerTheTerminal();
     void percentSignsInNamesAreLeftAlone();
     void ordinaryReportsAreNotWritten();
     void summaryCountsKindsOfErrors();
@@ -220,6 +221,15 @@ void tst_ConsoleReport::lostAnswerIsNoRefusal()
     send(ServerNames::SetSnooze, QVariantMap{{ServerNames::KeyNodeId, QStringLiteral("north/c1")}});
     QCOMPARE(takeLines(), QStringList{QStringLiteral("snooze    there is no answer for north/c1, "
                                                      "which may be snoozed or not")});
+}
+
+void tst_ConsoleReport::namesDoNotSteerTheTerminal()
+{
+    Q_EMIT m_fixture->workbench.surface().reachingLimit(QStringLiteral("M\x1b[2J\r\n\u009bA"),
+                                                        87.5);
+    QCOMPARE(takeLines(),
+             QStringList{QStringLiteral("capacity  M\uFFFD[2J\uFFFD\uFFFD\uFFFDA is at 87.5% of "
+                                        "its capacity")});
 }
 
 void tst_ConsoleReport::percentSignsInNamesAreLeftAlone()

@@ -93,7 +93,10 @@ void tst_LocalStation::failedSampleIsNotReported()
     station.report(-100, 34);
     QCoreApplication::sendPostedEvents();
     QCOMPARE(events.size(), 0);
-    station.report(0, 0);
+    station.report(12, 0);
+    QCoreApplication::sendPostedEvents();
+    QCOMPARE(events.size(), 0);
+    station.report(0, 1);
     QCoreApplication::sendPostedEvents();
     QCOMPARE(events.size(), 1);
 }

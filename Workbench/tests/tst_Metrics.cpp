@@ -26,6 +26,7 @@ private Q_SLOTS:
     void failedSampleIsAbsent_data();
     void failedSampleIsAbsent();
     void onlyTheFocusedStationIsShown();
+    void reportOfAnUnknownStationIsNotKept();
     void stationOutOfReachIsAbsent();
     void malformedReportIsAbsent();
     void eventsAreCountedByName();
@@ -171,6 +172,14 @@ void tst_Metrics::onlyTheFocusedStationIsShown()
     QVERIFY(has("system_monitor_station_network_usage_ratio{station=\"north\",interface=\"eth0\"} "
                 "0.125"));
     QVERIFY(!m_metrics->text().contains("south"));
+}
+
+// A server may name sources without end.
+void tst_Metrics::reportOfAnUnknownStationIsNotKept()
+{
+    report(QStringLiteral("nowhere"), toEventData({40, 60, {}}));
+    focus(QStringLiteral("nowhere"));
+    QVERIFY(!hasSampleOf("system_monitor_station_cpu_usage_ratio"));
 }
 
 void tst_Metrics::stationOutOfReachIsAbsent()
