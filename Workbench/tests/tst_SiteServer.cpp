@@ -75,6 +75,7 @@ private Q_SLOTS:
     void unknownCommandIsRefused();
 
     void resetForgetsSnoozesAndPendingEvents();
+    void resetKeepsOtherPendingCalls();
 
     void storedSnoozesOutliveTheServer();
     void storeForgetsWhatHasExpiredOrWasRemoved();
@@ -521,6 +522,17 @@ void tst_SiteServer::unknownCommandIsRefused()
 {
     QCOMPARE(execute(QStringLiteral("ReconnectSubstations")).code,
              QStringLiteral("UnknownCommand"));
+}
+
+// A clock's call that is due at once is posted as well.
+void tst_SiteServer::resetKeepsOtherPendingCalls()
+{
+    bool isCalled = false;
+    QMetaObject::invokeMethod(
+        m_server.get(), [&isCalled] { isCalled = true; }, Qt::QueuedConnection);
+    m_server->reset(testSite());
+    QCoreApplication::sendPostedEvents();
+    QVERIFY(isCalled);
 }
 
 void tst_SiteServer::resetForgetsSnoozesAndPendingEvents()

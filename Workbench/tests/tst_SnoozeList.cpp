@@ -26,6 +26,7 @@ private Q_SLOTS:
     void expiredSnoozesAreTakenOnceEarliestFirst();
     void nextEndIsTheEarliest();
     void removedSnoozeIsGone();
+    void snoozeOfOneNodeIsFound();
 };
 
 void tst_SnoozeList::stateDependsOnTheTimeAlone_data()
@@ -108,6 +109,16 @@ void tst_SnoozeList::removedSnoozeIsGone()
     QVERIFY(!list.remove(QStringLiteral("b")));
     QVERIFY(list.remove(QStringLiteral("a")));
     QVERIFY(!list.remove(QStringLiteral("a")));
+}
+
+void tst_SnoozeList::snoozeOfOneNodeIsFound()
+{
+    SnoozeList list;
+    list.set({QStringLiteral("a"), 3, 100});
+    QCOMPARE(list.active(QStringLiteral("a"), 99'000)->endSeconds, 100);
+    QVERIFY(!list.active(QStringLiteral("a"), 100'000));
+    QVERIFY(!list.active(QStringLiteral("b"), 0));
+    QCOMPARE(list.all().size(), std::size_t(1));
 }
 
 QTEST_GUILESS_MAIN(tst_SnoozeList)
