@@ -118,6 +118,10 @@
         <source>Expected options only, found &quot;%1&quot;.</source>
         <translation>Erwartet: nur Optionen, gefunden: „%1“.</translation>
     </message>
+    <message>
+        <source>--%1: expected a value.</source>
+        <translation>--%1: erwartet: ein Wert.</translation>
+    </message>
 </context>
 <context>
     <name>ConsoleReport</name>

@@ -27,6 +27,17 @@ void CommandLine::parse(const QStringList &arguments)
     if (!m_parser.positionalArguments().isEmpty())
         throw InputError(tr("Expected options only, found \"%1\".")
                              .arg(m_parser.positionalArguments().constFirst()));
+    // A shell variable that is not set must not count as an option that is not given.
+    for (const OptionGroup &group : std::as_const(m_groups)) {
+        for (const QCommandLineOption &option : group.options)
+            expectValue(option);
+    }
+}
+
+void CommandLine::expectValue(const QCommandLineOption &option) const
+{
+    if (isSet(option) && !option.valueName().isEmpty() && value(option).isEmpty())
+        throw InputError(tr("--%1: expected a value.").arg(option.names().constLast()));
 }
 
 QString CommandLine::file(const QCommandLineOption &option, const QString &folder) const

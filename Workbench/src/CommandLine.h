@@ -23,7 +23,7 @@ public:
     void add(const QList<OptionGroup> &groups);
 
     /// Reads a command line, whose first argument is the program's own name. Throws InputError for
-    /// an option that there is not, and for what is none.
+    /// an option that there is not, for one without its value, and for what is none.
     void parse(const QStringList &arguments);
 
     bool isSet(const QCommandLineOption &option) const { return m_parser.isSet(option); }
@@ -38,6 +38,8 @@ public:
     QString optionsText() const;
 
 private:
+    void expectValue(const QCommandLineOption &option) const;
+
     QCommandLineParser m_parser;
     QList<OptionGroup> m_groups;
 };

@@ -111,19 +111,28 @@ bool JournalPlayer::play(const QJsonObject &entry)
                                 entry.value(Source).toString());
     else if (entry.contains(Response))
         respond(entry);
-    else if (entry.value(Server).toBool())
+    else
+        changeServer(entry.value(Server).toBool());
+    return true;
+}
+
+void JournalPlayer::changeServer(bool isConnected)
+{
+    if (isConnected)
         m_plugin.PluginServerConnected();
     else
         m_plugin.PluginServerDisconnected();
-    return true;
+    Q_EMIT serverChanged(isConnected);
 }
 
 void JournalPlayer::call(const QJsonObject &entry)
 {
     const QString name = entry.value(JournalKeys::Call).toString();
-    if (name != WalkTimer)
-        callByName(m_plugin, name.toLatin1(),
-                   entry.value(JournalKeys::Arguments).toArray().toVariantList());
+    const QJsonArray arguments = entry.value(JournalKeys::Arguments).toArray();
+    if (name == WalkTimer)
+        Q_EMIT statesRetrieved(arguments.first().toBool());
+    else
+        callByName(m_plugin, name.toLatin1(), arguments.toVariantList());
 }
 
 void JournalPlayer::respond(const QJsonObject &entry)

@@ -33,8 +33,14 @@ public:
 
     /// The plug-in's error list.
     const QAbstractItemModel &errors() const { return *m_errors; }
+    /// The topology as far as it was played.
+    const QStandardItemModel &topology() const { return m_framework.peers().topology; }
 
 Q_SIGNALS:
+    /// The plug-in was told that the server is connected, or that it is not.
+    void serverChanged(bool isConnected);
+    /// The plug-in was told that the states of all nodes were fetched, or that this failed.
+    void statesRetrieved(bool success);
     /// All entries were played.
     void finished();
     /// An entry of this line does not fit what came before.
@@ -47,6 +53,7 @@ private:
     bool play(const QJsonObject &entry);
     void call(const QJsonObject &entry);
     void respond(const QJsonObject &entry);
+    void changeServer(bool isConnected);
 
     PluginBase &m_plugin;
     const Journal m_journal;

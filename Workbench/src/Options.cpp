@@ -166,8 +166,9 @@ void OptionParser::readReplay(Options &options) const
         options.speed = number(m_speed, MaxSpeed);
     if (!isReplay)
         return;
-    for (const QCommandLineOption &other : {m_record, m_line.site, m_scenario, m_seed, m_loop,
-                                            m_screenshot, m_server, m_store, m_log}) {
+    for (const QCommandLineOption &other :
+         {m_record, m_line.site, m_scenario, m_seed, m_loop, m_screenshot, m_server, m_store, m_log,
+          m_format, m_ignoreErrors, m_metrics}) {
         if (m_line.isSet(other))
             throw InputError(
                 tr("--%1: expected without --replay.").arg(other.names().constFirst()));

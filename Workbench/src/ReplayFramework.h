@@ -31,6 +31,7 @@ class ReplayFramework : public FrameworkWrapperBase
 {
 public:
     ReplayPeers &peers() { return m_peers; }
+    const ReplayPeers &peers() const { return m_peers; }
 
     /// Takes the oldest command of a name and target that has not been answered.
     ///

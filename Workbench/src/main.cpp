@@ -10,6 +10,8 @@
 #include "LocalStation.h"
 #include "Options.h"
 #include "PluginHost.h"
+#include "Preferences.h"
+#include "ReplayFeed.h"
 #include "ReplayRun.h"
 #include "ScaledClock.h"
 #include "ScenarioFile.h"
@@ -108,12 +110,17 @@ int replay(const Options &options, Catalogues &catalogues)
     JournalPlayer player(*host.plugin(), engine ? engine->rootContext() : nullptr, journal,
                          options.isFast ? nullptr : &clock);
     std::unique_ptr<DashboardWindow> window;
+    std::unique_ptr<ReplayFeed> feed;
+    const Preferences preferences(engine ? Preferences::usualFile() : QString());
     if (engine) {
         window = std::make_unique<DashboardWindow>(*engine, *host.plugin(), journal.fileName, page);
+        feed = std::make_unique<ReplayFeed>(player, *window);
+        window->setDark(preferences.isDark());
         window->show();
     }
     QTextStream out(stdout);
     const int code = ReplayRun(player, journal, out, window != nullptr).exec();
+    feed.reset();
     window.reset();
     host.destroy();
     return code;

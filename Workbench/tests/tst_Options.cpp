@@ -153,7 +153,19 @@ void tst_Options::wrongOptionsAreRefused_data()
             << QStringLiteral("--replay j --%1 1").arg(name)
             << QStringLiteral("--%1: expected without --replay.").arg(name);
     }
-    for (const char *const port : {"-1", "65536", "http", "", "80.5"}) {
+    QTest::newRow("replay and format") << QStringLiteral("--replay j --format json")
+                                       << QStringLiteral("--format: expected without --replay.");
+    QTest::newRow("replay and ignore-errors")
+        << QStringLiteral("--replay j --ignore-errors")
+        << QStringLiteral("--ignore-errors: expected without --replay.");
+    QTest::newRow("replay and metrics") << QStringLiteral("--replay j --metrics 0")
+                                        << QStringLiteral("--metrics: expected without --replay.");
+    for (const char *const option : {"replay", "store", "record", "token-file", "log", "site"}) {
+        const QString name = QString::fromLatin1(option);
+        QTest::addRow("empty %s", option) << QStringLiteral("--%1=").arg(name)
+                                          << QStringLiteral("--%1: expected a value.").arg(name);
+    }
+    for (const char *const port : {"-1", "65536", "http", "80.5"}) {
         const QString text = QString::fromLatin1(port);
         QTest::addRow("port '%s'", port)
             << QStringLiteral("--metrics=") + text

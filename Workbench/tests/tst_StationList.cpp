@@ -2,6 +2,7 @@
 
 #include "PrintedValue.h"
 #include "TestSite.h"
+#include "TopologyPlugin.h"
 
 #include <QTest>
 
@@ -12,6 +13,7 @@ class tst_StationList : public QObject
 private Q_SLOTS:
     void listsEveryStationWithItsParent();
     void emptySiteHasNone();
+    void topologyOfASiteHasTheSame();
 };
 
 void tst_StationList::listsEveryStationWithItsParent()
@@ -32,7 +34,18 @@ void tst_StationList::listsEveryStationWithItsParent()
 
 void tst_StationList::emptySiteHasNone()
 {
-    QVERIFY(stationList({}).isEmpty());
+    QVERIFY(stationList(Site()).isEmpty());
+    QVERIFY(stationList(QStandardItemModel()).isEmpty());
+}
+
+void tst_StationList::topologyOfASiteHasTheSame()
+{
+    Site site = testSite();
+    site.findStation(QStringLiteral("north/annex"))->connected = false;
+    TopologyPlugin topology;
+    topology.setSite(site);
+    const auto &model = *static_cast<QStandardItemModel *>(topology.getStandardTopologyModel());
+    QCOMPARE(stationList(model), stationList(site));
 }
 
 QTEST_GUILESS_MAIN(tst_StationList)
