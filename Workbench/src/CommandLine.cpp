@@ -20,6 +20,15 @@ void CommandLine::add(const QList<OptionGroup> &groups)
         m_parser.addOptions(group.options);
 }
 
+QString CommandLine::languageOf(const QStringList &arguments)
+{
+    CommandLine line;
+    line.m_parser.addOption(line.language);
+    // That the other options are unknown here is no mistake of the user's.
+    line.m_parser.parse(arguments);
+    return line.value(line.language);
+}
+
 void CommandLine::parse(const QStringList &arguments)
 {
     if (!m_parser.parse(arguments))

@@ -22,6 +22,10 @@ public:
     /// Adds options, in the order in which the help names them.
     void add(const QList<OptionGroup> &groups);
 
+    /// The value of the option for the language, whatever else stands on a command line: what is
+    /// said of the rest is said in that language.
+    static QString languageOf(const QStringList &arguments);
+
     /// Reads a command line, whose first argument is the program's own name. Throws InputError for
     /// an option that there is not, for one without its value, and for what is none.
     void parse(const QStringList &arguments);

@@ -51,7 +51,7 @@ JournalPlayer::JournalPlayer(PluginBase &plugin, QQmlContext *context, const Jou
 
 void JournalPlayer::start()
 {
-    m_startMs = m_clock ? m_clock->nowMs() : 0;
+    m_startMs = m_clock ? m_clock->elapsedMs() : 0;
     scheduleNext();
 }
 
@@ -78,7 +78,8 @@ void JournalPlayer::expectKnownCalls() const
 void JournalPlayer::scheduleNext()
 {
     if (m_clock && m_next < m_journal.entries.size())
-        m_clock->callAt(m_startMs + m_journal.entries[m_next].atMs, this, [this] { playNext(); });
+        m_clock->callAfter(m_startMs + m_journal.entries[m_next].atMs - m_clock->elapsedMs(), this,
+                           [this] { playNext(); });
     else
         QMetaObject::invokeMethod(this, &JournalPlayer::playNext, Qt::QueuedConnection);
 }

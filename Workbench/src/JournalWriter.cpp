@@ -11,7 +11,7 @@
 JournalWriter::JournalWriter(const QString &fileName, const QString &pluginId, const Clock &clock)
     : m_file(fileName)
     , m_clock(clock)
-    , m_startMs(clock.nowMs())
+    , m_startMs(clock.elapsedMs())
 {
     if (m_file.exists())
         throw InputError(tr("%1: expected a new file, found one that is there").arg(fileName));
@@ -31,7 +31,7 @@ JournalWriter::JournalWriter(const QString &fileName, const QString &pluginId, c
 
 void JournalWriter::write(QJsonObject entry)
 {
-    entry.insert(JournalKeys::At, m_clock.nowMs() - m_startMs);
+    entry.insert(JournalKeys::At, m_clock.elapsedMs() - m_startMs);
     writeLine(entry);
 }
 

@@ -1,4 +1,5 @@
 #include "Catalogues.h"
+#include "CommandLine.h"
 #include "DashboardWindow.h"
 #include "Display.h"
 #include "EnvironmentThresholds.h"
@@ -37,7 +38,15 @@ QStringList toStringList(int argc, char **argv)
     return arguments;
 }
 
-// Help, and what is said of a wrong option, needs no window system.
+// What is said of a wrong option needs an application to be translated.
+Options readOptions(const QStringList &arguments, int &argc, char **argv)
+{
+    const QCoreApplication application(argc, argv);
+    const Catalogues catalogues(CommandLine::languageOf(arguments));
+    return parseOptions(arguments);
+}
+
+// Help needs no window system.
 std::unique_ptr<QCoreApplication> createApplication(const Options &options, int &argc, char **argv)
 {
     if (options.wantsHelp || options.wantsVersion)
@@ -129,7 +138,7 @@ int replay(const Options &options, Catalogues &catalogues)
 int run(int argc, char **argv)
 {
     const QStringList arguments = toStringList(argc, argv);
-    Options options = parseOptions(arguments);
+    Options options = readOptions(arguments, argc, argv);
     if (!hasDisplay(QProcessEnvironment::systemEnvironment()))
         options.isHeadless = true;
     const std::unique_ptr<QCoreApplication> application = createApplication(options, argc, argv);

@@ -1,5 +1,6 @@
 #include "AccessToken.h"
 #include "Catalogues.h"
+#include "CommandLine.h"
 #include "ExitCode.h"
 #include "InputError.h"
 #include "ScaledClock.h"
@@ -90,8 +91,9 @@ int main(int argc, char **argv)
     QCoreApplication::setApplicationName(QStringLiteral("site-server"));
     QCoreApplication::setApplicationVersion(QStringLiteral(WORKBENCH_VERSION));
     try {
-        const ServerOptions options = parseServerOptions(QCoreApplication::arguments());
-        const Catalogues catalogues(options.language);
+        const QStringList arguments = QCoreApplication::arguments();
+        const Catalogues catalogues(CommandLine::languageOf(arguments));
+        const ServerOptions options = parseServerOptions(arguments);
         if (options.wantsHelp)
             QTextStream(stdout) << serverOptionsHelp();
         else if (options.wantsVersion)

@@ -32,7 +32,18 @@ private Q_SLOTS:
     void wrongArgumentsAreRefused_data();
     void wrongArgumentsAreRefused();
     void groupsStandInTheOrderOfTheirAddition();
+    void languageIsFoundAmongWhatIsWrong();
 };
+
+void tst_CommandLine::languageIsFoundAmongWhatIsWrong()
+{
+    QCOMPARE(CommandLine::languageOf(words({})), QStringLiteral("en"));
+    QCOMPARE(CommandLine::languageOf(words(QStringLiteral("--speed x --language de --fast stray"))),
+             QStringLiteral("de"));
+    QCOMPARE(CommandLine::languageOf(words(QStringLiteral("--language=de --site"))),
+             QStringLiteral("de"));
+    QCOMPARE(CommandLine::languageOf(words(QStringLiteral("--site"))), QStringLiteral("en"));
+}
 
 void tst_CommandLine::readsWhatWasAdded()
 {
