@@ -344,10 +344,12 @@ void tst_RemoteServerLink::pausesGrowUntilAConnectionHolds()
     for (const int pauseMs : {250, 500, 1000})
         QVERIFY2(failsAfter(pauseMs), qPrintable(m_log.lines().join(u'|')));
     const auto hold = [this, &server] {
+        m_log.take();
         for (qint64 ms = 0; ms < RemoteServerLink::ProvenMs; ms += 500) {
             m_clock->advance(500);
-            server.say(ServerMessage::Event{QStringLiteral("E"), {}, {}});
-            waitForLog(QStringLiteral("E  from ''"));
+            server.say(ServerMessage::Event{QStringLiteral("E"), 1, {}});
+            QVERIFY2(waitForLog(QStringLiteral("E 1LL from ''")),
+                     qPrintable(m_log.lines().join(u'|')));
             m_log.take();
         }
     };
