@@ -90,7 +90,6 @@ ScenarioRun::ScenarioRun(const Options &options, const Site &site, const Scenari
                          PluginHost &host)
     : m_options(options)
     , m_site(site)
-    , m_scenario(scenario)
     , m_engine(createEngine(options))
     , m_clock(options.speed)
     , m_recording(openRecording(options, host, m_clock))

@@ -41,7 +41,6 @@ private:
 
     const Options &m_options;
     const Site &m_site;
-    const Scenario &m_scenario;
     std::unique_ptr<QQmlEngine> m_engine; // null when nothing is drawn
     ScaledClock m_clock;
     std::unique_ptr<Recording> m_recording; // null when the user wants no journal
