@@ -9,6 +9,8 @@
 
 namespace {
 
+using Model = QAbstractItemModel;
+
 template <typename Compare>
 QList<QStandardItem *> sortedByRow(const QList<QStandardItem *> &items, Compare compare)
 {
@@ -40,39 +42,57 @@ void ErrorIndex::setModel(QStandardItemModel *model)
     if (m_model)
         m_model->disconnect(this);
     m_model = model;
-    m_removals = 0;
-    using Model = QAbstractItemModel;
+    m_changes = 0;
+    countChanges();
+    followRows();
+    trackAnew();
+}
+
+void ErrorIndex::countChanges()
+{
+    connect(m_model, &Model::rowsAboutToBeInserted, this, &ErrorIndex::beginChange);
+    connect(m_model, &Model::rowsAboutToBeRemoved, this, &ErrorIndex::beginChange);
+    connect(m_model, &Model::columnsAboutToBeInserted, this, &ErrorIndex::beginChange);
+    connect(m_model, &Model::columnsAboutToBeRemoved, this, &ErrorIndex::beginChange);
+    connect(m_model, &Model::modelAboutToBeReset, this, &ErrorIndex::beginChange);
+
+    connect(m_model, &Model::rowsInserted, this, &ErrorIndex::endChange);
+    connect(m_model, &Model::rowsRemoved, this, &ErrorIndex::endChange);
+    connect(m_model, &Model::columnsInserted, this, &ErrorIndex::endChange);
+    connect(m_model, &Model::columnsRemoved, this, &ErrorIndex::endChange);
+    connect(m_model, &Model::modelReset, this, &ErrorIndex::endChange);
+}
+
+void ErrorIndex::followRows()
+{
     // The rows of the list have no children; what lies below them is of no concern.
-    connect(model, &Model::rowsInserted, this,
+    connect(m_model, &Model::rowsInserted, this,
             [this](const QModelIndex &parent, int first, int last) {
                 if (!parent.isValid())
                     trackRows(first, last);
             });
-    connect(model, &Model::rowsAboutToBeRemoved, this,
+    connect(m_model, &Model::rowsAboutToBeRemoved, this,
             [this](const QModelIndex &parent, int first, int last) {
-                ++m_removals;
                 if (!parent.isValid())
                     untrackRows(first, last);
             });
-    connect(model, &Model::rowsRemoved, this, &ErrorIndex::endRemoval);
-    connect(model, &Model::dataChanged, this,
+    connect(m_model, &Model::dataChanged, this,
             [this](const QModelIndex &from, const QModelIndex &to, const QList<int> &roles) {
                 if (!from.parent().isValid() && mayHoldIds(roles))
                     refileRows(from.row(), to.row());
             });
 
     // Items may be replaced or gone after these, which nobody does to the error list in earnest.
-    connect(model, &Model::layoutChanged, this, &ErrorIndex::trackAnew);
-    connect(model, &Model::columnsInserted, this, &ErrorIndex::trackAnew);
-    connect(model, &Model::columnsRemoved, this, &ErrorIndex::trackAnew);
-    connect(model, &Model::modelReset, this, &ErrorIndex::trackAnew);
-    connect(model, &Model::modelAboutToBeReset, this, &ErrorIndex::clear);
-    connect(model, &Model::columnsAboutToBeRemoved, this,
+    connect(m_model, &Model::layoutChanged, this, &ErrorIndex::trackAnew);
+    connect(m_model, &Model::columnsInserted, this, &ErrorIndex::trackAnew);
+    connect(m_model, &Model::columnsRemoved, this, &ErrorIndex::trackAnew);
+    connect(m_model, &Model::modelReset, this, &ErrorIndex::trackAnew);
+    connect(m_model, &Model::modelAboutToBeReset, this, &ErrorIndex::clear);
+    connect(m_model, &Model::columnsAboutToBeRemoved, this,
             [this](const QModelIndex &parent, int first) {
                 if (!parent.isValid() && first == 0)
                     clear();
             });
-    trackAnew();
 }
 
 void ErrorIndex::insert(const QString &key, QStandardItem *item)
@@ -306,10 +326,15 @@ void ErrorIndex::refileRows(int first, int last)
     }
 }
 
-void ErrorIndex::endRemoval()
+void ErrorIndex::beginChange()
 {
-    m_removals = qMax(0, m_removals - 1);
-    if (m_tracksDoomed && m_removals == 0) {
+    ++m_changes;
+}
+
+void ErrorIndex::endChange()
+{
+    m_changes = qMax(0, m_changes - 1);
+    if (m_tracksDoomed && m_changes == 0) {
         m_tracksDoomed = false;
         trackAnew();
     }
@@ -317,7 +342,7 @@ void ErrorIndex::endRemoval()
 
 void ErrorIndex::trackAnew()
 {
-    m_tracksDoomed = m_removals > 0;
+    m_tracksDoomed = m_changes > 0;
     const auto oldRows = std::move(m_rows);
     clear();
     for (int row = 0; row < m_model->rowCount(); ++row) {

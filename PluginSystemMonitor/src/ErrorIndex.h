@@ -61,8 +61,8 @@ public:
     /// Whether an item is a row of the model that came no later than the row of this age. If not,
     /// it may be deleted, or stand where a deleted one stood.
     bool contains(const QStandardItem *item, quint64 age) const;
-    /// Whether rows are announced to go and still there.
-    bool isRemoving() const { return m_removals > 0; }
+    /// Whether rows or columns are announced to come or to go, and have not yet.
+    bool isChanging() const { return m_changes > 0; }
 
 private:
     struct Row;
@@ -99,6 +99,8 @@ private:
     static void takeFrom(Group &group, Row &row, Links Row::*links);
     static void appendItems(QList<QStandardItem *> &items, const Group &group, Links Row::*links);
 
+    void countChanges();
+    void followRows();
     QStandardItem *itemOfRow(int row) const;
     void track(QStandardItem *item);
     void untrack(const QStandardItem *item);
@@ -113,7 +115,8 @@ private:
     void untrackRows(int first, int last);
     void refileRows(int first, int last);
     void trackAnew();
-    void endRemoval();
+    void beginChange();
+    void endChange();
     void clear();
 
     QStandardItemModel *m_model = nullptr;
@@ -127,8 +130,8 @@ private:
     QString m_announcedKey;
     const QStandardItem *m_announcedItem = nullptr;
     quint64 m_newestAge = 0;
-    int m_removals = 0;          ///< announced and not yet done
-    bool m_tracksDoomed = false; ///< rows were tracked that a removal announced
+    int m_changes = 0;           ///< announced and not yet done
+    bool m_tracksDoomed = false; ///< rows were tracked that a removal may have announced
 };
 
 #endif

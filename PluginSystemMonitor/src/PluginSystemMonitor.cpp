@@ -113,6 +113,8 @@ void PluginSystemMonitor::LoadPairPluginDone()
     connectTopologySignal("2camStatusRetrievedChanged(bool)", "1initNodeStatusErrorTimer(bool)");
 
     topologyModel = fetchTopologyModel(pluginObject(TOPOLOGY_PLUGIN_ID));
+    // From now on, lest the first question comes in the middle of a change.
+    topologyIndex.setModel(topologyModel);
 }
 
 void PluginSystemMonitor::connectTopologySignal(const char *signal, const char *slot)

@@ -1,6 +1,7 @@
 #ifndef PLUGINSYSTEMMONITOR_H
 #define PLUGINSYSTEMMONITOR_H
 
+#include "ChangeQueue.h"
 #include "ErrorIndex.h"
 #include "ErrorKinds.h"
 #include "PluginBase.h"
@@ -9,7 +10,6 @@
 #include <QList>
 #include <QMap>
 #include <QModelIndex>
-#include <QPersistentModelIndex>
 #include <QPointer>
 #include <QSharedPointer>
 #include <QStandardItemModel>
@@ -35,6 +35,9 @@ QString getParentStationID(const QString &deviceID);
 /// The meta-object of this class is what QML and the host's signal wiring see; its order is part of
 /// the contract. Everything runs on the thread that owns the object, the host's user-interface
 /// thread; nothing is locked.
+///
+/// Whoever is told of a change may call back. What would change the error list, the snoozes or the
+/// resource model then waits until everybody was told.
 ///
 /// An error's only identity is its unique key (uniqueId()). Rules first test with existError() and
 /// then raise or clear, so that no key is listed twice.
@@ -81,7 +84,8 @@ public:
     /// The error list, owned by the plug-in; null before Init().
     Q_INVOKABLE QObject *getSystemErrorModel();
 
-    /// A new sorted and filtered view of the error list, owned by @p parent.
+    /// A new sorted and filtered view of the error list, owned by @p parent. Made by who is told of
+    /// a change of the list, it has its rows when everybody was told.
     Q_INVOKABLE QObject *getSystemErrorSortFilterModel(QObject *parent);
 
     /// The usage of the station in focus, owned by the plug-in; null before Init().
@@ -258,8 +262,10 @@ protected:
     QPointer<QStandardItemModel> topologyModel; ///< the topology plug-in's, not owned
     mutable TopologyIndex topologyIndex;        ///< finds nodes of that model by id
     QSharedPointer<SystemResourceModelControl> resourceModelControl;
-    ErrorIndex indexMap;                            ///< finds rows by unique key
-    QList<QPersistentModelIndex> postponedRemovals; ///< rows that go when a removal is done
+    ErrorIndex indexMap; ///< finds rows by unique key
+    /// Whoever is told of a change of the list may call back: whatever may change the list, or who
+    /// is snoozed, waits for its turn.
+    ChangeQueue listChanges{this, [this] { return indexMap.isChanging(); }};
     /// The record of the error last raised, kept for its nodes.
     QMap<QString, QVariant> errorRecord{
         {QStringLiteral("deviceID"), {}},  {QStringLiteral("errorCategory"), {}},
@@ -289,6 +295,7 @@ private:
     /// Answers checkSupportSystemMonitor() and frees the station id that the context is.
     void handleSupportResponse(void *context, const QString &resultCode);
     void handleSetSnoozeResponse(const QVariant &data, bool success);
+    void replaceSnoozes(const QStringList &nodeIDs);
     /// The text by which the walk names a node that raises an error.
     QString nameInWalk(const QModelIndex &node, int type, const QString &nodeID) const;
     /// The name of a camera's station, as findDeviceName() has it.
@@ -299,9 +306,9 @@ private:
     void appendError(ErrorCategory category, ErrorType type, const QString &key,
                      const QString &stationID, const QString &deviceID,
                      const QString &triggerDeviceName);
+    /// Gives a listed error another origin.
+    void relabelError(const QModelIndex &index, const QString &triggerDeviceName);
     QModelIndexList errorsOfType(ErrorType type) const;
-    /// Removes the rows whose removal was ordered while another one was under way.
-    void removePostponedRows();
     /// Removes rows of the list, in this order.
     void removeRows(const QList<QStandardItem *> &items);
     QString storageLabel(const QString &stationID, const QString &groupName) const;

@@ -16,6 +16,10 @@ const auto METHOD_IS_SUPPORT_SYSTEM_MONITOR = QLatin1String("isSupportSystemMoni
 void PluginSystemMonitor::EventProcessor(QString eventName, qint64, int, int, QVariant data,
                                          const QString &sourceID)
 {
+    if (listChanges.isBusy()) {
+        return listChanges.postpone(
+            [=, this] { EventProcessor(eventName, 0, 0, 0, data, sourceID); });
+    }
     const EntryLog entryLog = traceEntry("EventProcessor");
 
     if (eventName == EVENT_SYSTEM_RES_CHANGED) {
@@ -46,7 +50,7 @@ void PluginSystemMonitor::CommandProcessor(QString command, QVariant data, void 
     else if (command == METHOD_SET_SNOOZE)
         handleSetSnoozeResponse(data, resultCode == RESULT_SUCCESS);
     else if (command == METHOD_GET_SNOOZE_LIST)
-        snoozedDeviceList = data.toStringList();
+        replaceSnoozes(data.toStringList());
 }
 
 void PluginSystemMonitor::CommandProcessorEx(QString, ConfigBase *, QVariant, void *, QString,

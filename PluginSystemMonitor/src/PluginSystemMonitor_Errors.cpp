@@ -8,6 +8,8 @@
 #include "TopologyRoles.h"
 
 #include <QDateTime>
+#include <QPersistentModelIndex>
+#include <QPointer>
 
 #include <new>
 
@@ -119,7 +121,15 @@ QObject *PluginSystemMonitor::getSystemErrorModel()
 QObject *PluginSystemMonitor::getSystemErrorSortFilterModel(QObject *parent)
 {
     auto *proxy = new SystemErrorSortFilterModel(parent);
-    proxy->setSourceModel(errorModel);
+    if (!listChanges.isBusy()) {
+        proxy->setSourceModel(errorModel);
+        return proxy;
+    }
+    // Told of the end of a change alone, it would be out of step from the start.
+    listChanges.postpone([this, view = QPointer<SystemErrorSortFilterModel>(proxy)] {
+        if (view)
+            view->setSourceModel(errorModel);
+    });
     return proxy;
 }
 
@@ -131,8 +141,10 @@ void PluginSystemMonitor::appendSystemErrorModel(const QString &uniqueId, QStand
     }
     // Whoever hears of the row may look for it, or remove it: it has its key by then.
     indexMap.announce(uniqueId, item);
-    errorModel->appendRow(item);
-    indexMap.announce(QString(), nullptr);
+    listChanges.perform([&] {
+        errorModel->appendRow(item);
+        indexMap.announce(QString(), nullptr);
+    });
 }
 
 void PluginSystemMonitor::RemoveSystemErrorModelRow(const QModelIndex &index)
@@ -140,34 +152,32 @@ void PluginSystemMonitor::RemoveSystemErrorModelRow(const QModelIndex &index)
     if (!errorModel)
         return;
     indexMap.remove(index.data(SystemErrorModel::UniqueIDRole).toString());
-    // A view tells of a removal while the list has only announced it. The rows must keep their
-    // numbers until it is done.
-    if (indexMap.isRemoving()) {
-        postponedRemovals.append(index);
-        QMetaObject::invokeMethod(this, &PluginSystemMonitor::removePostponedRows,
-                                  Qt::QueuedConnection);
-        return;
-    }
-    errorModel->removeRows(index.row(), 1, index.parent());
-    removePostponedRows();
+    listChanges.perform([&] { errorModel->removeRows(index.row(), 1, index.parent()); });
 }
 
-void PluginSystemMonitor::removePostponedRows()
+void PluginSystemMonitor::relabelError(const QModelIndex &index, const QString &triggerDeviceName)
 {
-    while (!postponedRemovals.isEmpty()) {
-        const QPersistentModelIndex row = postponedRemovals.takeFirst();
-        if (row.isValid())
-            errorModel->removeRows(row.row(), 1, row.parent());
-    }
+    listChanges.perform([&] {
+        errorModel->setData(index, triggerDeviceName, SystemErrorModel::TriggerDeviceNameRole);
+    });
 }
 
 void PluginSystemMonitor::removeErrorFromModel(const QModelIndex &index)
 {
+    if (listChanges.isBusy()) {
+        listChanges.postpone([this, row = QPersistentModelIndex(index)] {
+            if (row.isValid())
+                removeErrorFromModel(row);
+        });
+        return;
+    }
     RemoveSystemErrorModelRow(index);
 }
 
 void PluginSystemMonitor::removeErrorFromModel(const QString &value, int role, Qt::MatchFlags flags)
 {
+    if (listChanges.isBusy())
+        return listChanges.postpone([=, this] { removeErrorFromModel(value, role, flags); });
     if (!errorModel)
         return;
     const QModelIndexList hits = errorModel->match(errorModel->index(0, 0), role, value, -1, flags);
@@ -180,6 +190,8 @@ void PluginSystemMonitor::removeErrorFromModel(const QString &value, int role, Q
 
 void PluginSystemMonitor::clearSystemErrorModel()
 {
+    if (listChanges.isBusy())
+        return listChanges.postpone([this] { clearSystemErrorModel(); });
     if (!errorModel)
         return;
     // From the last row, so that the numbers of the rows still to go stay what they are.
@@ -250,11 +262,15 @@ void PluginSystemMonitor::appendError(ErrorCategory category, ErrorType type, co
 
 void PluginSystemMonitor::removeCameraError(const QString &nodeID)
 {
+    if (listChanges.isBusy())
+        return listChanges.postpone([=, this] { removeCameraError(nodeID); });
     removeRows(indexMap.rowsOfDevice(nodeID));
 }
 
 void PluginSystemMonitor::removeStationError(const QString &nodeID)
 {
+    if (listChanges.isBusy())
+        return listChanges.postpone([=, this] { removeStationError(nodeID); });
     removeStationFromErrorModel(nodeID);
 }
 

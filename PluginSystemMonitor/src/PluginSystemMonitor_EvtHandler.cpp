@@ -87,6 +87,8 @@ void PluginSystemMonitor::setSystemResourceMonitor(
     const QSharedPointer<ISystemResourceMonitor> &monitor)
 {
     resourceMonitor = monitor;
+    if (!monitor)
+        return;
     connect(monitor.data(), &ISystemResourceMonitor::resourceChanged, this,
             &PluginSystemMonitor::clientResourceChanged);
 }

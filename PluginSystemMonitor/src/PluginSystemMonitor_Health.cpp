@@ -32,6 +32,8 @@ void traceDisconnectedButListed(const QString &stationID)
 
 void PluginSystemMonitor::monitorNodeStatus(int type, const QString &nodeID, bool connected)
 {
+    if (listChanges.isBusy())
+        return listChanges.postpone([=, this] { monitorNodeStatus(type, nodeID, connected); });
     if (isStationInTopologyModel(type))
         monitorStationStatus(nodeID, connected);
     else if (isCameraInTopologyModel(type))
@@ -80,6 +82,10 @@ void PluginSystemMonitor::monitorCameraStatus(const QString &cameraID, bool conn
 void PluginSystemMonitor::monitorNodeStatusForInit(int type, const QString &nodeID, bool connected,
                                                    const QString &triggerDeviceName)
 {
+    if (listChanges.isBusy()) {
+        return listChanges.postpone(
+            [=, this] { monitorNodeStatusForInit(type, nodeID, connected, triggerDeviceName); });
+    }
     if (isStationInTopologyModel(type))
         monitorStationStatusForInit(nodeID, connected, triggerDeviceName);
     else if (isCameraInTopologyModel(type))
@@ -108,6 +114,8 @@ void PluginSystemMonitor::initNodeStatusErrorTimer(bool)
 
 void PluginSystemMonitor::initNodeStatusError()
 {
+    if (listChanges.isBusy())
+        return listChanges.postpone([this] { initNodeStatusError(); });
     if (!topologyModel)
         return;
 
@@ -165,12 +173,16 @@ void PluginSystemMonitor::reloadStorageUsage(const QString &stationID)
 
 void PluginSystemMonitor::monitorVolumeStatus(const QString &nodeID)
 {
+    if (listChanges.isBusy())
+        return listChanges.postpone([=, this] { monitorVolumeStatus(nodeID); });
     if (!existError(VolumeDisconnected, nodeID, QString()).isValid())
         addSystemError(nodeID, VolumeDisconnected, QString(), QString());
 }
 
 void PluginSystemMonitor::removeVolumeError(const QString &nodeID)
 {
+    if (listChanges.isBusy())
+        return listChanges.postpone([=, this] { removeVolumeError(nodeID); });
     QList<QStandardItem *> volumeErrors = indexMap.rowsOfStation(nodeID);
     volumeErrors.removeIf([](const QStandardItem *error) {
         return error->data(SystemErrorModel::ErrorTypeRole) != QVariant(VolumeDisconnected);
@@ -182,10 +194,13 @@ void PluginSystemMonitor::monitorInsufficientRecordingDays(const QString &statio
                                                            const QString &groupName,
                                                            const QString &groupID)
 {
+    if (listChanges.isBusy()) {
+        return listChanges.postpone(
+            [=, this] { monitorInsufficientRecordingDays(stationID, groupName, groupID); });
+    }
     const QModelIndex error = existError(InsufficientRecordingDays, stationID, groupID);
     if (error.isValid())
-        errorModel->setData(error, storageLabel(stationID, groupName),
-                            SystemErrorModel::TriggerDeviceNameRole);
+        relabelError(error, storageLabel(stationID, groupName));
     else
         addStorageError(stationID, InsufficientRecordingDays, groupName, groupID);
 }
@@ -193,6 +208,9 @@ void PluginSystemMonitor::monitorInsufficientRecordingDays(const QString &statio
 void PluginSystemMonitor::monitorSufficientRecordingGroup(const QString &stationID,
                                                           const QString &groupID)
 {
+    if (listChanges.isBusy())
+        return listChanges.postpone(
+            [=, this] { monitorSufficientRecordingGroup(stationID, groupID); });
     const QModelIndex error = existError(InsufficientRecordingDays, stationID, groupID);
     if (error.isValid())
         RemoveSystemErrorModelRow(error);
@@ -231,6 +249,10 @@ bool PluginSystemMonitor::mayChangeUsageErrors(const QString &stationID, int usa
 void PluginSystemMonitor::monitorUsage(ErrorType type, const QString &stationID, int usage,
                                        int threshold, const QString &subId)
 {
+    if (listChanges.isBusy()) {
+        return listChanges.postpone(
+            [=, this] { monitorUsage(type, stationID, usage, threshold, subId); });
+    }
     if (!mayChangeUsageErrors(stationID, usage, threshold))
         return;
 

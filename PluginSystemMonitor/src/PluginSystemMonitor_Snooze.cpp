@@ -50,6 +50,13 @@ void PluginSystemMonitor::snoozeExpiredAndShowError(const QVariant &data)
         addCameraError(snooze.nodeID, CameraDisconnected, QString());
 }
 
+void PluginSystemMonitor::replaceSnoozes(const QStringList &nodeIDs)
+{
+    if (listChanges.isBusy())
+        return listChanges.postpone([=, this] { replaceSnoozes(nodeIDs); });
+    snoozedDeviceList = nodeIDs;
+}
+
 void PluginSystemMonitor::deleteSnooze(const QString &nodeID)
 {
     if (!snoozedDeviceList.contains(nodeID))

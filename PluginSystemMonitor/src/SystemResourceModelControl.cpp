@@ -29,31 +29,34 @@ SystemResourceModelControl::SystemResourceModelControl(int cpuLimit, int memoryL
 
 bool SystemResourceModelControl::initialModelData()
 {
-    // Whoever is told of the reset may start over as well, and have the last word.
-    const int ownLayout = ++layout;
-    resourceModel->clear();
-    if (layout != ownLayout && resourceModel->rowCount() > 0)
+    if (changes.isBusy()) {
+        changes.postpone([this] { initialModelData(); });
         return true;
+    }
+    bool isComplete = false;
+    changes.perform([&] {
+        resourceModel->clear();
+        isComplete = appendBaseRows();
+        if (isComplete)
+            networkRowsPending = true;
+    });
+    return isComplete;
+}
 
+bool SystemResourceModelControl::appendBaseRows()
+{
     const std::pair<SystemResourceModelItem::Type, int> kinds[]{
         {SystemResourceModelItem::CpuType, cpuThreshold},
         {SystemResourceModelItem::MemoryType, memoryThreshold},
         {SystemResourceModelItem::NetworkType, networkThreshold},
     };
-    QList<QStandardItem *> rows;
     for (const auto &[type, threshold] : kinds) {
         QStandardItem *row = createRow(type, QString(), threshold, "initialModelData");
         if (!row)
-            break;
-        rows.append(row);
+            return false;
+        resourceModel->appendRow(row);
     }
-    const bool isComplete = rows.size() == std::ssize(kinds);
-    if (isComplete)
-        networkRowsPending = true;
-    // All at once, so that nobody meets a part of them.
-    resourceModel->setColumnCount(1);
-    resourceModel->invisibleRootItem()->appendRows(rows);
-    return isComplete;
+    return true;
 }
 
 QStandardItem *SystemResourceModelControl::createRow(SystemResourceModelItem::Type type,
@@ -71,37 +74,43 @@ void SystemResourceModelControl::updateNetworkModalData(QList<QVariant> networkU
 {
     if (!networkRowsPending || networkUsageList.isEmpty())
         return;
-    // First, since whoever is told of the rows may send the next sample at once.
-    networkRowsPending = false;
 
-    const int ownLayout = layout;
     if (QStandardItem *firstNetworkRow = findNetworkRow()) {
         const QVariantMap usage = networkUsageList.takeFirst().toMap();
         firstNetworkRow->setData(usage.value(KEY_NETWORK_INTERFACE),
                                  SystemResourceModelItem::SubtitleRole);
     }
     for (const QVariant &entry : std::as_const(networkUsageList)) {
-        if (layout != ownLayout)
-            return;
         QStandardItem *row = createRow(SystemResourceModelItem::NetworkType,
                                        entry.toMap().value(KEY_NETWORK_INTERFACE).toString(),
                                        networkThreshold, "updateNetworkModalData");
         if (row)
             resourceModel->appendRow(row);
     }
+    networkRowsPending = false;
 }
 
 void SystemResourceModelControl::updateUsage(int cpuPercentage, int memoryPercentage,
                                              const QList<QVariant> &networkUsageList)
 {
+    if (changes.isBusy()) {
+        return changes.postpone(
+            [=, this] { updateUsage(cpuPercentage, memoryPercentage, networkUsageList); });
+    }
     if (resourceModel->rowCount() == 0)
         initialModelData();
-    const int ownLayout = layout;
-    updateNetworkModalData(networkUsageList);
+    changes.perform([&] { pushSample(cpuPercentage, memoryPercentage, networkUsageList); });
+}
 
-    for (int row = 0; layout == ownLayout && row < resourceModel->rowCount(); ++row) {
+void SystemResourceModelControl::pushSample(int cpuPercentage, int memoryPercentage,
+                                            const QList<QVariant> &networkUsageList)
+{
+    updateNetworkModalData(networkUsageList);
+    for (int row = 0; row < resourceModel->rowCount(); ++row) {
         // A row that others inserted bare gets its item here.
         QStandardItem *item = resourceModel->itemFromIndex(resourceModel->index(row, 0));
+        if (!item)
+            return;
         switch (item->data(SystemResourceModelItem::TypeRole).toInt()) {
         case SystemResourceModelItem::CpuType:
             updateUsageList<int>(item, cpuPercentage);
@@ -119,10 +128,7 @@ void SystemResourceModelControl::updateUsage(int cpuPercentage, int memoryPercen
 
 void SystemResourceModelControl::updateNetworkUsage(const QList<QVariant> &networkUsageList)
 {
-    const int ownLayout = layout;
     for (const QVariant &entry : networkUsageList) {
-        if (layout != ownLayout)
-            return;
         const QVariantMap usage = entry.toMap();
         QStandardItem *item = findInterface(usage.value(KEY_NETWORK_INTERFACE).toString());
         if (!item)

@@ -1,6 +1,7 @@
 #ifndef SYSTEMRESOURCEMODELCONTROL_H
 #define SYSTEMRESOURCEMODELCONTROL_H
 
+#include "ChangeQueue.h"
 #include "SystemResourceModelItem.h"
 
 #include <QList>
@@ -22,10 +23,11 @@ public:
     SystemResourceModelControl(int cpuLimit, int memoryLimit, int networkLimit, QObject *parent);
 
     /// Starts over: the three base rows with empty histories; the next sample lays out the network
-    /// rows anew. Returns false when memory is short; the rows made so far stay then.
+    /// rows anew. Returns false when memory is short; the rows made so far stay then. Called by who
+    /// is told of a change of the model, it waits for the end of that change, and returns true.
     bool initialModelData();
 
-    /// Pushes one sample into the rows.
+    /// Pushes one sample into the rows, or waits as initialModelData() does.
     ///
     /// @param cpuPercentage, memoryPercentage whole percents
     /// @param networkUsageList one map per interface with its name, its usage in percent and its
@@ -42,6 +44,9 @@ public:
     QStandardItemModel *model() const;
 
 private:
+    bool appendBaseRows();
+    void pushSample(int cpuPercentage, int memoryPercentage,
+                    const QList<QVariant> &networkUsageList);
     /// A new row, or null when memory is short, which is traced.
     QStandardItem *createRow(SystemResourceModelItem::Type type, const QString &subtitle,
                              int threshold, const char *caller) const;
@@ -50,11 +55,11 @@ private:
     QStandardItem *findInterface(const QVariant &name) const;
 
     bool networkRowsPending = true;
-    int layout = 0; ///< counts the new starts, each of which voids what was under way
     int cpuThreshold;
     int memoryThreshold;
     int networkThreshold;
     QSharedPointer<QStandardItemModel> resourceModel;
+    ChangeQueue changes{this}; ///< of the model
 };
 
 /// Moves a row's history on by one sample.

@@ -107,7 +107,10 @@ void TopologyIndex::beginChange()
 
 void TopologyIndex::endChange()
 {
-    m_changes = qMax(0, m_changes - 1);
+    if (m_changes > 0)
+        --m_changes;
+    else
+        discard(); // it began before anybody listened, and the table may hold what is gone now
 }
 
 /// Adds the nodes and what is below them, in the order of the search. Returns whether every id was

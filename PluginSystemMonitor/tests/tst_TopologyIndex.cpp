@@ -225,6 +225,8 @@ private Q_SLOTS:
     void changeIsFollowed();
     void searchDuringAChangeIsTrueThenAndAfter_data();
     void searchDuringAChangeIsTrueThenAndAfter();
+    void modelSetInTheMiddleOfAChangeIsTrueAfterwards_data();
+    void modelSetInTheMiddleOfAChangeIsTrueAfterwards();
     void randomChangesAreFollowed();
 };
 
@@ -511,6 +513,34 @@ void tst_TopologyIndex::searchDuringAChangeIsTrueThenAndAfter()
     QCOMPARE(searches, 1);
     QCOMPARE(found.join(u' '), QString());
     QCOMPARE(differences(index, model).join(u' '), QString());
+}
+
+void tst_TopologyIndex::modelSetInTheMiddleOfAChangeIsTrueAfterwards_data()
+{
+    searchDuringAChangeIsTrueThenAndAfter_data();
+}
+
+void tst_TopologyIndex::modelSetInTheMiddleOfAChangeIsTrueAfterwards()
+{
+    QFETCH(const Signal, connectTo);
+    QFETCH(const Change, change);
+    QStandardItemModel model;
+    fill(model);
+    TopologyIndex index;
+    QObject context;
+    QStringList found;
+    connectTo(model, &context, [&] {
+        index.setModel(&model);
+        found += differences(index, model);
+    });
+    change(model);
+    QCOMPARE(found.join(u' '), QString());
+    // Items of that size take the place of those that are gone.
+    QList<QStandardItem *> others;
+    for (int i = 0; i < 100; ++i)
+        others.append(new QStandardItem(u"other"_s));
+    QCOMPARE(differences(index, model).join(u' '), QString());
+    qDeleteAll(others);
 }
 
 void tst_TopologyIndex::randomChangesAreFollowed()

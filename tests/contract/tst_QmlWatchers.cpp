@@ -1,0 +1,161 @@
+#include "TestHost.h"
+
+#include <QAbstractItemModelTester>
+#include <QQmlComponent>
+#include <QQmlContext>
+#include <QQmlEngine>
+#include <QRegularExpression>
+#include <QTest>
+
+#include <memory>
+
+using namespace Qt::Literals::StringLiterals;
+
+/// Pages call the plug-in back from within the handlers of its signals and of its models'.
+class tst_QmlWatchers : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void handlerMayCallBack_data();
+    void handlerMayCallBack();
+};
+
+namespace {
+
+/// A page that acts in the handler of one signal. Its first view is there before the handler is,
+/// the second comes later.
+QByteArray page(const QString &target, const QString &handler, const QString &act)
+{
+    return uR"(
+        import QtQml
+        QtObject {
+            id: page
+            property int handled: 0
+            property bool acts: true
+            property var errors: plugin.getSystemErrorModel()
+            property var resources: plugin.getSystemResourceModel()
+            property var early: plugin.getSystemErrorSortFilterModel(page)
+            property var late: null
+            property var watcher: Connections {
+                target: %1
+                function %2() {
+                    page.handled++;
+                    if (!page.acts || page.handled > 20)
+                        return;
+                    page.acts = false;
+                    %3;
+                    page.acts = true;
+                }
+            }
+            Component.onCompleted: late = plugin.getSystemErrorSortFilterModel(page)
+        }
+    )"_s.arg(target, handler, act)
+        .toUtf8();
+}
+
+void cause(TestHost &host)
+{
+    const QVariantList networks{QVariantMap{{u"networkInterface"_s, u"en0"_s}},
+                                QVariantMap{{u"networkInterface"_s, u"en1"_s}}};
+    const auto report = [&](int percentage) {
+        host.event(u"SystemResChanged"_s,
+                   QVariantMap{{u"cpuPercentage"_s, percentage},
+                               {u"memPercentage"_s, percentage},
+                               {u"networkUsageList"_s, networks}},
+                   u"st1"_s);
+    };
+    host.object()->setProperty("focusStationResource", u"st1"_s);
+    report(95);
+    host.invoke("monitorVolumeStatus", u"st2"_s);
+    host.invoke("monitorNodeStatus", 0, u"st1/cam1"_s, false);
+    report(5);
+    host.invoke("monitorInsufficientRecordingDays", u"st2"_s, u"A"_s, u"g"_s);
+    host.invoke("monitorInsufficientRecordingDays", u"st2"_s, u"B"_s, u"g"_s);
+    host.invoke("removeVolumeError", u"st2"_s);
+    host.object()->setProperty("focusStationResource", u"st2"_s);
+    host.invoke("updateStationErrorNumber");
+    host.plugin()->PluginServerDisconnected();
+    host.invoke("monitorVolumeStatus", u"st3"_s);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+} // namespace
+
+void tst_QmlWatchers::init()
+{
+    QTest::failOnWarning(QRegularExpression(u"."_s));
+}
+
+void tst_QmlWatchers::handlerMayCallBack_data()
+{
+    QTest::addColumn<QString>("target");
+    QTest::addColumn<QString>("handler");
+    QTest::addColumn<QString>("act");
+
+    const QList<std::pair<QString, QStringList>> signalsOf{
+        {u"plugin"_s,
+         {u"onSystemResourceChanged"_s, u"onFocusStationResourceChanged"_s,
+          u"onStationErrorListChanged"_s, u"onNotifySystemResourceUpdated"_s}},
+        {u"page.errors"_s,
+         {u"onColumnsAboutToBeInserted"_s, u"onRowsAboutToBeInserted"_s, u"onRowsInserted"_s,
+          u"onRowsAboutToBeRemoved"_s, u"onRowsRemoved"_s, u"onDataChanged"_s}},
+        {u"page.early"_s,
+         {u"onRowsAboutToBeInserted"_s, u"onRowsInserted"_s, u"onRowsAboutToBeRemoved"_s,
+          u"onRowsRemoved"_s, u"onDataChanged"_s}},
+        {u"page.resources"_s,
+         {u"onModelAboutToBeReset"_s, u"onModelReset"_s, u"onColumnsAboutToBeInserted"_s,
+          u"onRowsAboutToBeInserted"_s, u"onRowsInserted"_s, u"onDataChanged"_s}},
+    };
+    const QList<std::pair<QString, QString>> acts{
+        {u"walks"_s, u"plugin.initNodeStatusError()"_s},
+        {u"changes the focus"_s, u"plugin.focusStationResource = 'st9'"_s},
+        {u"goes back and forth"_s,
+         u"plugin.focusStationResource = 'st8'; plugin.focusStationResource = 'st1'"_s},
+        {u"asks for reconnection"_s, u"plugin.reconnectDisconnectCameras()"_s},
+        {u"snoozes"_s, u"plugin.setSnooze('st1/cam1', 1, 3)"_s},
+        {u"makes a view"_s, u"plugin.getSystemErrorSortFilterModel(page)"_s},
+        {u"destroys its view"_s, u"if (page.early) page.early.destroy()"_s},
+    };
+    for (const auto &[target, handlers] : signalsOf) {
+        for (const QString &handler : handlers) {
+            for (const auto &[name, act] : acts) {
+                QTest::addRow("%s, %s, %s", qPrintable(target), qPrintable(handler),
+                              qPrintable(name))
+                    << target << handler << act;
+            }
+        }
+    }
+}
+
+void tst_QmlWatchers::handlerMayCallBack()
+{
+    QFETCH(const QString, target);
+    QFETCH(const QString, handler);
+    QFETCH(const QString, act);
+    TestHost host;
+    QStandardItem *const station = host.topologyModel.addStation(u"st1"_s, u"Lobby"_s);
+    TopologyModel::addCamera(station, u"st1/cam1"_s, u"Door"_s, false);
+    TopologyModel::addCamera(station, u"st1/cam2"_s, u"Gate"_s, false);
+
+    QQmlEngine engine;
+    engine.rootContext()->setContextProperty(u"plugin"_s, host.object());
+    QQmlComponent component(&engine);
+    component.setData(page(target, handler, act), QUrl());
+    const std::unique_ptr<QObject> page(component.create());
+    QVERIFY2(page, qPrintable(component.errorString()));
+    auto *const late = page->property("late").value<QAbstractItemModel *>();
+    QVERIFY(late);
+    const QAbstractItemModelTester tester(late);
+
+    cause(host);
+    cause(host);
+    QVERIFY(page->property("handled").toInt() > 0);
+    QCOMPARE(late->rowCount(), host.errors()->rowCount());
+    const auto *resources = page->property("resources").value<QAbstractItemModel *>();
+    QVERIFY(resources->rowCount() == 3 || resources->rowCount() == 4);
+}
+
+QTEST_GUILESS_MAIN(tst_QmlWatchers)
+#include "tst_QmlWatchers.moc"
