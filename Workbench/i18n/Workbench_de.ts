@@ -87,6 +87,10 @@
         <source>message: expected a hello first</source>
         <translation>Nachricht: erwartet: zuerst eine Begrüßung</translation>
     </message>
+    <message>
+        <source>too many commands at a time</source>
+        <translation>zu viele Befehle auf einmal</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>

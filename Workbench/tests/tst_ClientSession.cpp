@@ -6,6 +6,7 @@
 
 #include <QTest>
 #include <QWebSocket>
+#include <QWebSocketServer>
 
 #include <memory>
 
@@ -51,6 +52,7 @@ private Q_SLOTS:
     void clientWithoutAHelloIsDropped();
     void silentClientIsDropped();
     void clientThatDoesNotReadIsDropped();
+    void clientThatAsksFasterThanItIsServedIsSentAway();
 
 private:
     void serve(const AccessToken &token = {});
@@ -305,6 +307,33 @@ void tst_ClientSession::clientThatDoesNotReadIsDropped()
         QCoreApplication::processEvents();
     }
     QTRY_COMPARE(m_site->gate.connectionCount(), std::size_t(0));
+}
+
+// What arrives at a time waits together; what has been answered counts no more.
+void tst_ClientSession::clientThatAsksFasterThanItIsServedIsSentAway()
+{
+    const QByteArray command = R"({"type":"command","id":1,"name":"getSnoozeList"})";
+    QWebSocketServer listener(QString(), QWebSocketServer::NonSecureMode);
+    QVERIFY(listener.listen(QHostAddress::LocalHost));
+    RawClient client(listener.serverUrl());
+    QTRY_VERIFY(listener.hasPendingConnections());
+    std::unique_ptr<QWebSocket> socket(listener.nextPendingConnection());
+    socket->setParent(nullptr);
+    ClientSession session(std::move(socket), {}, m_site->server, m_site->clock, nullptr,
+                          2 * command.size());
+    connect(&session, &ClientSession::introduced, &session, &ClientSession::welcome);
+    client.sendText(Hello);
+    lastText(client, 1);
+    for (int i = 0; i < 5; ++i) {
+        client.sendText(command);
+        lastText(client, 2 + i);
+    }
+    const auto texts = [&client] { return client.texts().mid(6); };
+    QCOMPARE(texts().size(), 0);
+    for (int i = 0; i < 3; ++i)
+        client.sendText(command);
+    QTRY_COMPARE(client.closeCode(), 1013);
+    QCOMPARE(texts(), QList<QByteArray>{refusal("too many commands at a time", "false")});
 }
 
 QTEST_GUILESS_MAIN(tst_ClientSession)
