@@ -835,6 +835,14 @@ einem Szenario der Ereignisse und der Auslastung dieses Rechners.
         <source>expected a welcome first</source>
         <translation>erwartet: zuerst ein Willkommen</translation>
     </message>
+    <message>
+        <source>message: expected text, found binary data</source>
+        <translation>Nachricht: erwartet: Text, gefunden: Binärdaten</translation>
+    </message>
+    <message>
+        <source>message: expected one welcome, found another</source>
+        <translation>Nachricht: erwartet: ein einziges Willkommen, gefunden: noch eines</translation>
+    </message>
 </context>
 <context>
     <name>ReplayRun</name>

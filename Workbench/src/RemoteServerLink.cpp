@@ -64,6 +64,8 @@ void RemoteServerLink::tryNow()
     connect(m_socket.get(), &QWebSocket::disconnected, this, [this] { retryLater(reasonOfEnd()); });
     connect(m_socket.get(), &QWebSocket::textMessageReceived, this,
             [this](const QString &text) { take(text); });
+    connect(m_socket.get(), &QWebSocket::binaryMessageReceived, this,
+            [this] { retryLater(tr("message: expected text, found binary data")); });
     connect(m_socket.get(), &QWebSocket::pong, &m_heartbeat, &Heartbeat::heard);
     m_wait = std::make_unique<QObject>();
     m_clock.callAfter(AttemptMs, m_wait.get(),
@@ -112,9 +114,10 @@ void RemoteServerLink::take(const QString &text)
     m_heartbeat.heard();
     try {
         const AnyServerMessage message = readServerMessage(text);
-        const bool isFirst = std::holds_alternative<ServerMessage::Welcome>(message)
-                             || std::holds_alternative<ServerMessage::Refused>(message);
-        if (!isOpen() && !isFirst)
+        const bool isWelcome = std::holds_alternative<ServerMessage::Welcome>(message);
+        if (isOpen() && isWelcome)
+            throw InputError(tr("message: expected one welcome, found another"));
+        if (!isOpen() && !isWelcome && !std::holds_alternative<ServerMessage::Refused>(message))
             throw InputError(tr("expected a welcome first"));
         std::visit([this](const auto &one) { take(one); }, message);
     } catch (const InputError &error) {

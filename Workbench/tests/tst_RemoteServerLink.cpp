@@ -41,7 +41,8 @@ public:
     }
 
     // Says something to the client of the last time.
-    void say(const ServerMessage::Event &event) { m_client->sendTextMessage(toText(event)); }
+    void sayAgain(const QString &text) { m_client->sendTextMessage(text); }
+    void sendBytes(const QByteArray &bytes) { m_client->sendBinaryMessage(bytes); }
 
     // Until this is done, each has read what the other had sent before.
     bool isReached()
@@ -89,6 +90,8 @@ private Q_SLOTS:
     void answeringServerIsKept();
     void serverThatIsNotUnderstoodIsLeft_data();
     void serverThatIsNotUnderstoodIsLeft();
+    void serverThatWelcomesTwiceIsLeft();
+    void serverThatSendsBytesIsLeft();
 
     void refusalIsFinal();
     void linkThatIsSentAwayTriesAgain();
@@ -347,7 +350,7 @@ void tst_RemoteServerLink::pausesGrowUntilAConnectionHolds()
         m_log.take();
         for (qint64 ms = 0; ms < RemoteServerLink::ProvenMs; ms += 500) {
             m_clock->advance(500);
-            server.say(ServerMessage::Event{QStringLiteral("E"), 1, {}});
+            server.sayAgain(toText(ServerMessage::Event{QStringLiteral("E"), 1, {}}));
             QVERIFY2(waitForLog(QStringLiteral("E 1LL from ''")),
                      qPrintable(m_log.lines().join(u'|')));
             m_log.take();
@@ -422,6 +425,32 @@ void tst_RemoteServerLink::serverThatIsNotUnderstoodIsLeft()
     QVERIFY(server.say(text));
     QVERIFY(QTest::qWaitFor([this] { return !m_log.lines().isEmpty(); }));
     QCOMPARE(m_log.take(), QStringList{QStringLiteral("failed: %1, 250").arg(reason)});
+}
+
+// It would be another site, of which nobody is told.
+void tst_RemoteServerLink::serverThatWelcomesTwiceIsLeft()
+{
+    FakeServer server;
+    linkTo(server.url());
+    m_link->open();
+    const QString welcome = toText(ServerMessage::Welcome{testSite(), {}});
+    QVERIFY(server.say(welcome));
+    QVERIFY(waitForLog(QStringLiteral("opened")));
+    server.sayAgain(welcome);
+    QVERIFY(
+        waitForLog(QStringLiteral("failed: message: expected one welcome, found another, 250")));
+    QVERIFY(!m_link->isOpen());
+}
+
+void tst_RemoteServerLink::serverThatSendsBytesIsLeft()
+{
+    FakeServer server;
+    linkTo(server.url());
+    m_link->open();
+    QVERIFY(server.say(toText(ServerMessage::Welcome{testSite(), {}})));
+    QVERIFY(waitForLog(QStringLiteral("opened")));
+    server.sendBytes("\1\2");
+    QVERIFY(waitForLog(QStringLiteral("failed: message: expected text, found binary data, 250")));
 }
 
 void tst_RemoteServerLink::refusalIsFinal()
