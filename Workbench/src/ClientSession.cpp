@@ -65,7 +65,7 @@ void ClientSession::send(const QString &message)
 void ClientSession::welcome()
 {
     m_phase = Phase::Welcome;
-    send(toText(ServerMessage::Welcome{m_server.site(), m_server.snoozes()}));
+    send(toText(ServerMessage::Welcome{m_server.site(), m_server.snoozes(), m_clock.nowMs()}));
     m_heartbeat.start();
 }
 

@@ -1,5 +1,6 @@
 #include "DashboardFeed.h"
 
+#include "Clock.h"
 #include "DashboardSnoozes.h"
 #include "DashboardWindow.h"
 #include "ServerLink.h"
@@ -18,9 +19,12 @@ bool tellsOfSnoozes(const QString &event)
 
 } // namespace
 
-DashboardFeed::DashboardFeed(const ServerLink &link, DashboardWindow &window, QObject *parent)
+DashboardFeed::DashboardFeed(const ServerLink &link, const Clock &clock, double rate,
+                             DashboardWindow &window, QObject *parent)
     : QObject(parent)
     , m_link(link)
+    , m_clock(clock)
+    , m_rate(rate)
     , m_window(window)
 {
     m_stationsDue.setSingleShot(true);
@@ -40,6 +44,7 @@ DashboardFeed::DashboardFeed(const ServerLink &link, DashboardWindow &window, QO
             m_stationsDue.start(0);
     });
     showConnection();
+    showTime();
 }
 
 void DashboardFeed::takeStates(bool areKnown)
@@ -50,6 +55,7 @@ void DashboardFeed::takeStates(bool areKnown)
 void DashboardFeed::takeAll()
 {
     showConnection();
+    showTime();
     showStations();
     showSnoozes();
 }
@@ -67,6 +73,11 @@ void DashboardFeed::keepAll()
 void DashboardFeed::showConnection()
 {
     m_window.setConnection(m_link.isOpen(), m_link.since());
+}
+
+void DashboardFeed::showTime()
+{
+    m_window.setServerTime(m_clock.nowMs() + m_link.clockAheadMs(), m_rate);
 }
 
 void DashboardFeed::showStations()

@@ -75,6 +75,7 @@ void RemoteServerLink::tryNow()
 
 void RemoteServerLink::sayHello()
 {
+    m_helloMs = m_clock.nowMs();
     m_socket->sendTextMessage(toText(ClientMessage::Hello{m_token.text()}));
 }
 
@@ -130,6 +131,8 @@ void RemoteServerLink::take(const ServerMessage::Welcome &welcome)
     // A server that welcomes and then fails is not to be asked several times a second.
     m_wait = std::make_unique<QObject>();
     m_clock.callAfter(ProvenMs, m_wait.get(), [this] { m_pauses.reset(); });
+    // The server has said its time halfway between the hello and now, as far as anybody can tell.
+    m_clockAheadMs = welcome.timeMs - (m_helloMs + m_clock.nowMs()) / 2;
     m_site = welcome.site;
     m_snoozes.clear();
     for (const Snooze &snooze : welcome.snoozes)

@@ -123,11 +123,9 @@ int ScenarioRun::playWithDashboard()
     DashboardWindow window(*m_engine, m_workbench.surface().plugin(),
                            m_local ? m_site.name : m_options.serverUrl.toString(),
                            DashboardWindow::pageUrl(m_options.pageFile));
-    DashboardFeed feed(m_workbench.link(), window);
+    DashboardFeed feed(m_workbench.link(), m_clock, m_options.speed, window);
     QObject::connect(&m_workbench.topology(), &TopologyPlugin::camStatusRetrievedChanged, &feed,
                      &DashboardFeed::takeStates);
-    if (m_local)
-        window.setServerTime(m_clock.nowMs(), m_options.speed);
     window.setFiles(files);
     window.setOperationalLog(logReader);
     window.setDark(preferences.isDark());

@@ -12,7 +12,7 @@
 
 namespace {
 
-const QByteArray Hello = QByteArrayLiteral(R"({"type":"hello","protocol":2})");
+const QByteArray Hello = QByteArrayLiteral(R"({"type":"hello","protocol":3})");
 
 QByteArray nested(int depth)
 {
@@ -161,11 +161,11 @@ void tst_ClientSession::messagesThatAreNotUnderstoodAreRefused_data()
         "message: protocol: expected a whole number from 0 to 2147483647, found nothing");
     row("version as text", false, R"({"type":"hello","protocol":"1"})",
         R"(message: protocol: expected a whole number from 0 to 2147483647, found \"1\")");
-    row("another version", false, R"({"type":"hello","protocol":3,"colour":"red"})",
-        "message: protocol: expected version 2, found version 3");
-    row("token is a list", false, R"({"type":"hello","protocol":2,"token":[]})",
+    row("another version", false, R"({"type":"hello","protocol":2,"colour":"red"})",
+        "message: protocol: expected version 3, found version 2");
+    row("token is a list", false, R"({"type":"hello","protocol":3,"token":[]})",
         "message: token: expected a text, found a list");
-    row("unknown key", false, R"({"type":"hello","protocol":2,"colour":"red"})",
+    row("unknown key", false, R"({"type":"hello","protocol":3,"colour":"red"})",
         "message: colour: expected one of the keys protocol, token, type, found an unknown key");
     row("command before the hello", false, R"({"type":"command","id":1,"name":"getSnoozeList"})",
         "message: expected a hello first");
@@ -265,7 +265,7 @@ void tst_ClientSession::tokenIsAskedFor()
     const TextFile file("correct-horse-battery\n");
     serve(AccessToken::fromFile(file.path()));
     RawClient client(m_site->gate.url());
-    client.sendText(R"({"type":"hello","protocol":2)" + token + '}');
+    client.sendText(R"({"type":"hello","protocol":3)" + token + '}');
     const QByteArray text = lastText(client, 1);
     if (answer.isEmpty())
         QVERIFY(text.contains(R"("type":"welcome")"));

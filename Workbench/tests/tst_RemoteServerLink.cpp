@@ -33,11 +33,16 @@ public:
     // Waits for a client and says something to it.
     bool say(const QString &text)
     {
-        if (!QTest::qWaitFor([this] { return m_listener.hasPendingConnections(); }))
-            return false;
-        m_client.reset(m_listener.nextPendingConnection());
-        m_client->sendTextMessage(text);
-        return true;
+        const bool isThere = accept();
+        if (isThere)
+            sayAgain(text);
+        return isThere;
+    }
+
+    // Waits for a client and for what it says first.
+    bool hears()
+    {
+        return accept() && QSignalSpy(m_client.get(), &QWebSocket::textMessageReceived).wait();
     }
 
     // Says something to the client of the last time.
@@ -59,6 +64,14 @@ public:
     void hangUp() { m_client.reset(); }
 
 private:
+    bool accept()
+    {
+        if (!QTest::qWaitFor([this] { return m_listener.hasPendingConnections(); }))
+            return false;
+        m_client.reset(m_listener.nextPendingConnection());
+        return true;
+    }
+
     QWebSocketServer m_listener;
     std::unique_ptr<QWebSocket> m_client;
 };
@@ -74,6 +87,7 @@ private Q_SLOTS:
     void cleanup();
 
     void opensWithTheSiteOfTheServer();
+    void comparesTheClocks();
     void followsTheSite();
     void passesEventsOn();
     void knowsTheSnoozes();
@@ -178,6 +192,20 @@ void tst_RemoteServerLink::opensWithTheSiteOfTheServer()
     QCOMPARE(m_log.take(), QStringList{QStringLiteral("opened")});
     QCOMPARE(m_link->site().name, QStringLiteral("Test site"));
     QCOMPARE(m_link->site().cameraCount(), testSite().cameraCount());
+}
+
+// The welcome arrives a second after the hello, so it was written half a second ago.
+void tst_RemoteServerLink::comparesTheClocks()
+{
+    FakeServer server;
+    linkTo(server.url());
+    m_link->open();
+    QVERIFY(server.hears());
+    m_clock->leap(1000);
+    server.sayAgain(
+        toText(ServerMessage::Welcome{testSite(), {}, VirtualClock::StartMs + 3'600'500}));
+    QVERIFY(waitForLog(QStringLiteral("opened")));
+    QCOMPARE(m_link->clockAheadMs(), 3'600'000);
 }
 
 void tst_RemoteServerLink::followsTheSite()

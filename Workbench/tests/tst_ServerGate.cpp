@@ -12,7 +12,7 @@
 
 namespace {
 
-const QByteArray Hello = QByteArrayLiteral(R"({"type":"hello","protocol":2})");
+const QByteArray Hello = QByteArrayLiteral(R"({"type":"hello","protocol":3})");
 
 QVariantMap snoozeRequest(const QString &cameraId, qint64 endSeconds)
 {
