@@ -303,6 +303,13 @@
     </message>
 </context>
 <context>
+    <name>DashboardFeed</name>
+    <message>
+        <source>the server refuses this client for good: %1</source>
+        <translation>der Server weist diesen Client endgültig ab: %1</translation>
+    </message>
+</context>
+<context>
     <name>DashboardWindow</name>
     <message>
         <source>%1 - system monitor</source>

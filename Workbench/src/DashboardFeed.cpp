@@ -34,6 +34,13 @@ DashboardFeed::DashboardFeed(const ServerLink &link, const Clock &clock, double 
     connect(&link, &ServerLink::opened, this, &DashboardFeed::takeAll);
     connect(&link, &ServerLink::closed, this, &DashboardFeed::keepAll);
     connect(&link, &ServerLink::closed, this, [this] { takeStates(false); });
+    connect(&link, &ServerLink::attemptFailed, this, [this](const QString &reason, qint64 pauseMs) {
+        m_window.setConnectionFailure(reason, QDateTime::currentDateTime().addMSecs(pauseMs));
+    });
+    connect(&link, &ServerLink::refused, this, [this](const QString &reason) {
+        m_window.setConnectionFailure(tr("the server refuses this client for good: %1").arg(reason),
+                                      {});
+    });
     connect(&link, &ServerLink::eventRaised, this, [this](const QString &name) {
         if (tellsOfSnoozes(name))
             m_snoozesDue.start(0);
@@ -73,6 +80,7 @@ void DashboardFeed::keepAll()
 void DashboardFeed::showConnection()
 {
     m_window.setConnection(m_link.isOpen(), m_link.since());
+    m_window.setConnectionFailure({}, {});
 }
 
 void DashboardFeed::showTime()

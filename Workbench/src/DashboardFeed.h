@@ -8,9 +8,9 @@ class Clock;
 class DashboardWindow;
 class ServerLink;
 
-/// Keeps a dashboard informed of what the plug-in does not tell it: the connection to the server,
-/// the server's time, the stations of the site and its snoozes. These stay as last known while the
-/// connection is lost.
+/// Keeps a dashboard informed of what the plug-in does not tell it: the connection to the server or
+/// why there is none, the server's time, the stations of the site and its snoozes. These stay as
+/// last known while the connection is lost.
 ///
 /// Thousands of snoozes or stations may change at a time; the lists are handed on once, from the
 /// event loop.

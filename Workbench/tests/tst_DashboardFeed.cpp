@@ -23,6 +23,7 @@ private Q_SLOTS:
 
     void showsTheConnectionAtOnce();
     void followsTheConnection();
+    void tellsWhyThereIsNoConnection();
     void tellsTheTimeOfTheServer();
     void statesAreKnownUntilTheConnectionIsLost();
     void statesThatCouldNotBeFetchedAreUnknown();
@@ -117,6 +118,26 @@ void tst_DashboardFeed::followsTheConnection()
     m_link->close();
     QCOMPARE(shown("serverConnected").toBool(), false);
     QCOMPARE(shown("connectionSince").toDateTime(), m_link->since());
+}
+
+void tst_DashboardFeed::tellsWhyThereIsNoConnection()
+{
+    QCOMPARE(shown("connectionFailure").toString(), QString());
+    const QDateTime before = QDateTime::currentDateTime();
+    Q_EMIT m_link->attemptFailed(QStringLiteral("Connection refused"), 500);
+    QCOMPARE(shown("connectionFailure").toString(), QStringLiteral("Connection refused"));
+    QVERIFY(shown("nextAttempt").toDateTime() >= before.addMSecs(500));
+    QVERIFY(shown("nextAttempt").toDateTime() <= QDateTime::currentDateTime().addMSecs(500));
+
+    Q_EMIT m_link->refused(QStringLiteral("the token is wrong"));
+    QCOMPARE(shown("connectionFailure").toString(),
+             QStringLiteral("the server refuses this client for good: the token is wrong"));
+    QVERIFY(!shown("nextAttempt").isValid());
+
+    Q_EMIT m_link->attemptFailed(QStringLiteral("Connection refused"), 500);
+    m_link->open();
+    QCOMPARE(shown("connectionFailure").toString(), QString());
+    QVERIFY(!shown("nextAttempt").isValid());
 }
 
 void tst_DashboardFeed::tellsTheTimeOfTheServer()
