@@ -301,6 +301,10 @@
         <source>there is no answer for %1, which may be snoozed or not</source>
         <translation>keine Antwort zu %1; vielleicht zurückgestellt, vielleicht nicht</translation>
     </message>
+    <message>
+        <source>no connection within %1 s; the run ends</source>
+        <translation>keine Verbindung binnen %1 s; der Lauf endet</translation>
+    </message>
 </context>
 <context>
     <name>DashboardFeed</name>
@@ -643,10 +647,6 @@
         <translation>--page: erwartet: eine QML-Datei, gefunden: „%1“.</translation>
     </message>
     <message>
-        <source>--token-file: expected --server URL as well.</source>
-        <translation>--token-file: erwartet: auch --server URL.</translation>
-    </message>
-    <message>
         <source>--server: expected an address such as ws://127.0.0.1:8765, found &quot;%1&quot;.</source>
         <translation>--server: erwartet: eine Adresse wie ws://127.0.0.1:8765, gefunden: „%1“.</translation>
     </message>
@@ -753,10 +753,6 @@ einem Szenario der Ereignisse und der Auslastung dieses Rechners.
         <translation>--metrics: erwartet: ein Port von 0 bis 65535, gefunden: „%1“.</translation>
     </message>
     <message>
-        <source>What happens at the site: a JSON file, or the name of a bundled one (default, everything, flap, storm).</source>
-        <translation>Was am Standort geschieht: eine JSON-Datei oder der Name eines mitgelieferten Szenarios (default, everything, flap, storm).</translation>
-    </message>
-    <message>
         <source>Examples:
   workbench
       show the dashboard with the bundled site and scenario
@@ -785,6 +781,18 @@ einem Szenario der Ereignisse und der Auslastung dieses Rechners.
   workbench --headless --format json --ignore-errors
       ein JSON-Objekt je Zeile ausgeben, für ein Programm
 </translation>
+    </message>
+    <message>
+        <source>--%1: expected --server URL as well.</source>
+        <translation>--%1: erwartet: auch --server URL.</translation>
+    </message>
+    <message>
+        <source>What happens at the site: a JSON file, or the name of a bundled one (default, everything, flap, storm, watch).</source>
+        <translation>Was am Standort geschieht: eine JSON-Datei oder der Name eines mitgelieferten Szenarios (default, everything, flap, storm, watch).</translation>
+    </message>
+    <message>
+        <source>Without a window: end with exit code 3 when there has been no connection to that server for so long after the start. Without this it is waited for.</source>
+        <translation>Ohne Fenster: mit dem Rückgabewert 3 enden, wenn so lange nach dem Start keine Verbindung zu diesem Server besteht. Ohne diese Angabe wird auf ihn gewartet.</translation>
     </message>
 </context>
 <context>
@@ -1165,6 +1173,10 @@ Zurückstellungen, die alle Clients teilen. Läuft, bis es beendet wird.
     <message>
         <source>reading %1</source>
         <translation>%1 wird gelesen</translation>
+    </message>
+    <message>
+        <source>--connect-timeout: expected --headless as well.</source>
+        <translation>--connect-timeout: erwartet: auch --headless.</translation>
     </message>
 </context>
 <context>

@@ -27,8 +27,10 @@ private:
     void readServer(Options &options) const;
     void readView(Options &options) const;
     void readReports(Options &options) const;
+    void expectWithServer(const QCommandLineOption &option) const;
     void expectWithoutServer(const QCommandLineOption &option) const;
     double number(const QCommandLineOption &option, double greatest) const;
+    qint64 milliseconds(const QCommandLineOption &option) const;
     quint32 seed() const;
     ReportFormat format() const;
     quint16 metricsPort() const;
@@ -88,8 +90,8 @@ void OptionParser::readServer(Options &options) const
 {
     options.tokenFile = m_line.value(m_line.token);
     if (!m_line.isSet(m_line.server)) {
-        if (!options.tokenFile.isEmpty())
-            throw InputError(tr("--token-file: expected --server URL as well."));
+        expectWithServer(m_line.token);
+        expectWithServer(m_line.connectTimeout);
         return;
     }
     const QString text = m_line.value(m_line.server);
@@ -102,6 +104,15 @@ void OptionParser::readServer(Options &options) const
                 .arg(text));
     expectWithoutServer(m_line.store);
     expectWithoutServer(m_line.speed);
+    if (m_line.isSet(m_line.connectTimeout))
+        options.connectTimeoutMs = static_cast<int>(milliseconds(m_line.connectTimeout));
+}
+
+void OptionParser::expectWithServer(const QCommandLineOption &option) const
+{
+    if (m_line.isSet(option))
+        throw InputError(
+            tr("--%1: expected --server URL as well.").arg(option.names().constFirst()));
 }
 
 // The snoozes and the clock are that server's.
@@ -121,7 +132,7 @@ void OptionParser::readView(Options &options) const
         return;
     if (options.screenshotFile.isEmpty())
         throw InputError(tr("--screenshot-at: expected --screenshot FILE as well."));
-    options.screenshotAtMs = std::llround(number(m_line.screenshotAt, MaxSeconds) * 1000.0);
+    options.screenshotAtMs = milliseconds(m_line.screenshotAt);
 }
 
 void OptionParser::readReports(Options &options) const
@@ -146,6 +157,12 @@ double OptionParser::number(const QCommandLineOption &option, double greatest) c
                              .arg(greatest)
                              .arg(text));
     return number;
+}
+
+// Of an option in seconds.
+qint64 OptionParser::milliseconds(const QCommandLineOption &option) const
+{
+    return std::llround(number(option, MaxSeconds) * 1000.0);
 }
 
 quint32 OptionParser::seed() const

@@ -145,6 +145,9 @@ int ScenarioRun::playHeadless(Screenshot *screenshot)
     const std::unique_ptr<RunReport> report = createReport(m_options.format, out, m_clock);
     report->follow(m_workbench);
     const RunProgress progress(StatusLine::onStandardError(), m_workbench.driver());
-    const int code = HeadlessRun(m_workbench, *report, screenshot).exec();
+    HeadlessRun run(m_workbench, *report, screenshot);
+    if (m_options.connectTimeoutMs)
+        run.limitConnecting(std::chrono::milliseconds(*m_options.connectTimeoutMs));
+    const int code = run.exec();
     return code == ExitCode::ErrorsRemain && m_options.ignoresErrors ? ExitCode::Success : code;
 }

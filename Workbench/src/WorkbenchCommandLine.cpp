@@ -9,7 +9,7 @@ WorkbenchCommandLine::WorkbenchCommandLine()
            "list, then a summary. This is what happens, too, when there is no display."))
     , scenario(QStringLiteral("scenario"),
                tr("What happens at the site: a JSON file, or the name of a bundled one (default, "
-                  "everything, flap, storm)."),
+                  "everything, flap, storm, watch)."),
                tr("file"), QStringLiteral("default"))
     , speed(QStringLiteral("speed"),
             tr("How many seconds of the scenario pass in a real one. Snoozes and the times printed "
@@ -55,6 +55,11 @@ WorkbenchCommandLine::WorkbenchCommandLine()
              tr("ws://host:port"))
     , token(QStringLiteral("token-file"), tr("Give that server the token that is in this file."),
             tr("file"))
+    , connectTimeout(QStringLiteral("connect-timeout"),
+                     tr("Without a window: end with exit code 3 when there has been no connection "
+                        "to that server for so long after the start. Without this it is waited "
+                        "for."),
+                     tr("seconds"))
     , store(
           QStringLiteral("store"),
           tr("Keep the snoozes of the site in this SQLite file, for the next time. Without it they "
@@ -70,7 +75,7 @@ WorkbenchCommandLine::WorkbenchCommandLine()
              tr("file"))
 {
     add({{tr("What is shown:"), {site, scenario, speed, seed, loop, replay, page, language}},
-         {tr("Site server:"), {server, token}},
+         {tr("Site server:"), {server, token, connectTimeout}},
          {tr("Files that are written:"), {screenshot, screenshotAt, log, store, record}},
          {tr("For scripts and monitoring:"), {headless, format, ignoreErrors, metrics}},
          {tr("Others:"), {plugin, help, version}}});

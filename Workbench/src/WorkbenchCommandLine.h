@@ -29,6 +29,7 @@ public:
     const QCommandLineOption plugin;
     const QCommandLineOption server;
     const QCommandLineOption token;
+    const QCommandLineOption connectTimeout;
     const QCommandLineOption store;
     const QCommandLineOption record;
     const QCommandLineOption replay;

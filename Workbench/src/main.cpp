@@ -83,6 +83,9 @@ void expectFittingOptions(const Options &options)
     if (!options.isHeadless && options.format != ReportFormat::Text)
         throw InputError(
             QCoreApplication::translate("main", "--format: expected --headless as well."));
+    if (!options.isHeadless && options.connectTimeoutMs)
+        throw InputError(
+            QCoreApplication::translate("main", "--connect-timeout: expected --headless as well."));
 }
 
 QString pluginFile(const Options &options)
