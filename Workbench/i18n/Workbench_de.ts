@@ -1127,6 +1127,13 @@ Zurückstellungen, die alle Clients teilen. Läuft, bis es beendet wird.
     </message>
 </context>
 <context>
+    <name>StandardOutput</name>
+    <message>
+        <source>The output cannot be written.</source>
+        <translation>Die Ausgabe kann nicht geschrieben werden.</translation>
+    </message>
+</context>
+<context>
     <name>StationWatch</name>
     <message>
         <source>the answer cannot be used: %1</source>

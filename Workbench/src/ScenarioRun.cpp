@@ -112,6 +112,7 @@ int ScenarioRun::exec()
     const int exitCode = m_engine ? playWithDashboard() : playHeadless(nullptr);
     if (m_recording)
         m_recording->finish();
+    m_out.expectWritten();
     return exitCode;
 }
 
@@ -141,8 +142,8 @@ int ScenarioRun::playWithDashboard()
 
 int ScenarioRun::playHeadless(Screenshot *screenshot)
 {
-    QTextStream out(stdout);
-    const std::unique_ptr<RunReport> report = createReport(m_options.format, out, m_clock);
+    const std::unique_ptr<RunReport> report =
+        createReport(m_options.format, m_out.stream(), m_clock);
     report->follow(m_workbench);
     const RunProgress progress(StatusLine::onStandardError(), m_workbench.driver());
     HeadlessRun run(m_workbench, *report, screenshot);

@@ -10,6 +10,7 @@
 #include "ScaledClock.h"
 #include "ServerLink.h"
 #include "SnoozeStore.h"
+#include "StandardOutput.h"
 #include "Workbench.h"
 
 #include <QCoreApplication>
@@ -50,6 +51,7 @@ private:
     std::unique_ptr<ServerLink> m_remote; // null when the site is in this process
     Workbench m_workbench;
     std::unique_ptr<MetricsServer> m_metrics; // null when nobody asks for them
+    StandardOutput m_out;
 };
 
 #endif

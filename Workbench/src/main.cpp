@@ -19,6 +19,7 @@
 #include "ScenarioRun.h"
 #include "SiteFile.h"
 #include "SlowNotice.h"
+#include "StandardOutput.h"
 
 #include <QGuiApplication>
 #include <QProcessEnvironment>
@@ -130,11 +131,12 @@ int replay(const Options &options, Catalogues &catalogues)
         window->setDark(preferences.isDark());
         window->show();
     }
-    QTextStream out(stdout);
-    const int code = ReplayRun(player, journal, out, window != nullptr).exec();
+    StandardOutput out;
+    const int code = ReplayRun(player, journal, out.stream(), window != nullptr).exec();
     feed.reset();
     window.reset();
     host.destroy();
+    out.expectWritten();
     return code;
 }
 
