@@ -907,6 +907,10 @@ einem Szenario der Ereignisse und der Auslastung dieses Rechners.
         <source>waiting for the server</source>
         <translation>warten auf den Server</translation>
     </message>
+    <message>
+        <source>%1 of %2 entries of the journal</source>
+        <translation>%1 von %2 Einträgen des Journals</translation>
+    </message>
 </context>
 <context>
     <name>ScenarioFile</name>

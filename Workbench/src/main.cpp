@@ -57,11 +57,15 @@ std::unique_ptr<QCoreApplication> createApplication(const Options &options, int 
     return std::make_unique<QGuiApplication>(argc, argv);
 }
 
+SlowNotice whileReading(const QString &fileName)
+{
+    return SlowNotice(StatusLine::onStandardError(),
+                      QCoreApplication::translate("main", "reading %1").arg(fileName));
+}
+
 Site readSite(const Options &options)
 {
-    const SlowNotice notice(
-        StatusLine::onStandardError(),
-        QCoreApplication::translate("main", "reading %1").arg(options.siteFile));
+    const SlowNotice notice = whileReading(options.siteFile);
     Site site = readSiteFile(options.siteFile);
     site.stations.push_back(LocalStation::station());
     return site;
@@ -69,6 +73,7 @@ Site readSite(const Options &options)
 
 Scenario readScenario(const Options &options, const Site &site)
 {
+    const SlowNotice notice = whileReading(options.scenarioFile);
     Scenario scenario = readScenarioFile(options.scenarioFile, site, options.seed);
     if (options.screenshotAtMs) {
         scenario.screenshotAtMs = options.screenshotAtMs;
@@ -104,9 +109,15 @@ int play(const Options &options, Catalogues &catalogues)
     return ScenarioRun(options, site, scenario, host).exec();
 }
 
+Journal readRecording(const Options &options)
+{
+    const SlowNotice notice = whileReading(options.replayFile);
+    return readJournal(options.replayFile);
+}
+
 int replay(const Options &options, Catalogues &catalogues)
 {
-    const Journal journal = readJournal(options.replayFile);
+    const Journal journal = readRecording(options);
     PluginHost host(pluginFile(options));
     if (journal.pluginId != host.pluginId())
         throw InputError(QCoreApplication::translate(
