@@ -946,26 +946,6 @@ einem Szenario der Ereignisse und der Auslastung dieses Rechners.
         <source>the id of a camera or station of the site</source>
         <translation>die Kennung einer Kamera oder Station des Standorts</translation>
     </message>
-    <message>
-        <source>a station with cameras</source>
-        <translation>eine Station mit Kameras</translation>
-    </message>
-    <message>
-        <source>one without</source>
-        <translation>eine ohne</translation>
-    </message>
-    <message>
-        <source>at most %1 changes in all</source>
-        <translation>höchstens %1 Änderungen insgesamt</translation>
-    </message>
-    <message>
-        <source>nothing beside &quot;rate&quot;</source>
-        <translation>nichts neben „rate“</translation>
-    </message>
-    <message>
-        <source>a duration</source>
-        <translation>eine Dauer</translation>
-    </message>
 </context>
 <context>
     <name>ScenarioRun</name>
@@ -1142,6 +1122,33 @@ Zurückstellungen, die alle Clients teilen. Läuft, bis es beendet wird.
     <message>
         <source>the answer cannot be used: %1</source>
         <translation>die Antwort ist nicht brauchbar: %1</translation>
+    </message>
+</context>
+<context>
+    <name>StormReader</name>
+    <message>
+        <source>one of %1</source>
+        <translation>eines von %1</translation>
+    </message>
+    <message>
+        <source>a station with cameras</source>
+        <translation>eine Station mit Kameras</translation>
+    </message>
+    <message>
+        <source>one without</source>
+        <translation>eine ohne</translation>
+    </message>
+    <message>
+        <source>at most %1 changes in all</source>
+        <translation>höchstens %1 Änderungen insgesamt</translation>
+    </message>
+    <message>
+        <source>nothing beside &quot;rate&quot;</source>
+        <translation>nichts neben „rate“</translation>
+    </message>
+    <message>
+        <source>a duration</source>
+        <translation>eine Dauer</translation>
     </message>
 </context>
 <context>

@@ -86,7 +86,7 @@ std::unique_ptr<RunReport> createReport(ReportFormat format, QTextStream &out, c
 
 } // namespace
 
-ScenarioRun::ScenarioRun(const Options &options, const Site &site, const Scenario &scenario,
+ScenarioRun::ScenarioRun(const Options &options, const Site &site, Scenario scenario,
                          PluginHost &host)
     : m_options(options)
     , m_site(site)
@@ -98,7 +98,8 @@ ScenarioRun::ScenarioRun(const Options &options, const Site &site, const Scenari
     , m_local(openSite(options, site, m_clock, m_store.get()))
     , m_remote(openRemoteLink(options, m_clock))
     , m_workbench(host, m_engine ? m_engine->rootContext() : nullptr,
-                  m_remote ? *m_remote : m_local->link(), m_local.get(), scenario, m_log, m_clock)
+                  m_remote ? *m_remote : m_local->link(), m_local.get(), std::move(scenario), m_log,
+                  m_clock)
     , m_metrics(serveMetrics(options, m_workbench))
 {
     if (m_metrics) {

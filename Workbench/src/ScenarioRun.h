@@ -27,11 +27,10 @@ class ScenarioRun
     Q_DECLARE_TR_FUNCTIONS(ScenarioRun)
 
 public:
-    /// Throws InputError and HostError. All parameters must outlive the run.
+    /// Throws InputError and HostError. Options, site and host must outlive the run.
     ///
     /// @param host has loaded the plug-in
-    ScenarioRun(const Options &options, const Site &site, const Scenario &scenario,
-                PluginHost &host);
+    ScenarioRun(const Options &options, const Site &site, Scenario scenario, PluginHost &host);
 
     /// Runs the application, and returns its exit code. Throws InputError and HostError.
     int exec();

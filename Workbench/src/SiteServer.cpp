@@ -78,9 +78,7 @@ bool SiteServer::removeStation(const QString &stationId)
     if (!station)
         return false;
     QStringList gone;
-    Site below;
-    below.stations.push_back(*station);
-    below.forEachStation([&gone](const Station &removed) {
+    station->forEachStation([&gone](const Station &removed) {
         gone.append(removed.id);
         for (const Camera &camera : removed.cameras)
             gone.append(camera.id);

@@ -9,7 +9,7 @@
 #include <utility>
 
 Workbench::Workbench(PluginHost &host, QQmlContext *context, ServerLink &link, LocalSite *site,
-                     const Scenario &scenario, OperationalLogStore &log, Clock &clock)
+                     Scenario scenario, OperationalLogStore &log, Clock &clock)
     : m_host(host)
     , m_link(link)
     , m_site(site)
@@ -19,7 +19,7 @@ Workbench::Workbench(PluginHost &host, QQmlContext *context, ServerLink &link, L
     })
     , m_recording(m_framework, m_link)
     , m_logPlugin(log, clock)
-    , m_driver(scenario, clock)
+    , m_driver(std::move(scenario), clock)
 {
     wirePlugins(context);
     m_surface = std::make_unique<PluginSurface>(*host.plugin());

@@ -37,7 +37,7 @@ public:
     ///
     /// Throws HostError when the plug-in cannot be used.
     Workbench(PluginHost &host, QQmlContext *context, ServerLink &link, LocalSite *site,
-              const Scenario &scenario, OperationalLogStore &log, Clock &clock);
+              Scenario scenario, OperationalLogStore &log, Clock &clock);
     ~Workbench() override;
 
     /// Connects the server and, once it is connected, plays the scenario; again with the site as

@@ -103,10 +103,10 @@ int play(const Options &options, Catalogues &catalogues)
 {
     expectFittingOptions(options);
     const Site site = readSite(options);
-    const Scenario scenario = readScenario(options, site);
+    Scenario scenario = readScenario(options, site);
     PluginHost host(pluginFile(options));
     catalogues.installNew();
-    return ScenarioRun(options, site, scenario, host).exec();
+    return ScenarioRun(options, site, std::move(scenario), host).exec();
 }
 
 Journal readRecording(const Options &options)
