@@ -123,7 +123,7 @@ int ScenarioRun::playWithDashboard()
     OperationalLogReader logReader(m_log, m_workbench.logPlugin());
     Preferences preferences(m_options.isHeadless ? QString() : Preferences::usualFile());
     DashboardWindow window(*m_engine, m_workbench.surface().plugin(),
-                           m_local ? m_site.name : m_options.serverUrl.toString(),
+                           m_local ? m_site.name : m_options.serverUrl.toDisplayString(),
                            DashboardWindow::pageUrl(m_options.pageFile));
     DashboardFeed feed(m_workbench.link(), m_clock, m_options.speed, window);
     QObject::connect(&m_workbench.topology(), &TopologyPlugin::camStatusRetrievedChanged, &feed,
