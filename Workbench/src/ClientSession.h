@@ -43,6 +43,9 @@ public:
                   Clock &clock, QObject *parent = nullptr, qsizetype maxWaiting = MaxWaiting);
     ~ClientSession() override;
 
+    ClientSession(const ClientSession &) = delete;
+    ClientSession &operator=(const ClientSession &) = delete;
+
     /// Sends a message that is for all clients. It goes nowhere before this one was welcomed.
     void send(const QString &message);
 

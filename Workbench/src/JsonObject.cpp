@@ -82,7 +82,7 @@ bool JsonObject::has(const QString &key)
 
 QString JsonObject::text(const QString &key)
 {
-    const QString text = take(key).toString();
+    QString text = take(key).toString();
     if (text.isEmpty())
         failType(key, tr("a text"));
     return text;

@@ -43,6 +43,9 @@ public:
                      RetryPauses pauses = RetryPauses(), QObject *parent = nullptr);
     ~RemoteServerLink() override;
 
+    RemoteServerLink(const RemoteServerLink &) = delete;
+    RemoteServerLink &operator=(const RemoteServerLink &) = delete;
+
     const Site &site() const override { return m_site; }
     qint64 clockAheadMs() const override { return m_clockAheadMs; }
     std::vector<Snooze> snoozes() const override { return m_snoozes.all(); }

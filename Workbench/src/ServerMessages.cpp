@@ -44,7 +44,7 @@ const QString TimeKey = QStringLiteral("time");
 
 Snooze readSnooze(JsonObject &object)
 {
-    const Snooze snooze{
+    Snooze snooze{
         object.text(ServerNames::KeyNodeId),
         object.wholeNumber(ServerNames::KeyType, ServerNames::CameraDisconnected,
                            ServerNames::StationDisconnected),

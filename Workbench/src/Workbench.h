@@ -40,6 +40,9 @@ public:
               Scenario scenario, OperationalLogStore &log, Clock &clock);
     ~Workbench() override;
 
+    Workbench(const Workbench &) = delete;
+    Workbench &operator=(const Workbench &) = delete;
+
     /// Connects the server and, once it is connected, plays the scenario; again with the site as
     /// it was at first.
     void start();
