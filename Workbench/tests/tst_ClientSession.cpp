@@ -175,7 +175,7 @@ void tst_ClientSession::messagesThatAreNotUnderstoodAreRefused_data()
     row("fraction as id", true, R"({"type":"command","id":1.5,"name":"x"})",
         "message: id: expected a whole number from 0 to 2147483647, found the number 1.5");
     row("id too great", true, R"({"type":"command","id":2147483648,"name":"x"})",
-        "message: id: expected a whole number from 0 to 2147483647, found the number 2.14748e+09");
+        "message: id: expected a whole number from 0 to 2147483647, found the number 2147483648");
     row("command without a name", true, R"({"type":"command","id":1})",
         "message: name: expected a text, found nothing");
     row("command with an empty name", true, R"({"type":"command","id":1,"name":""})",
