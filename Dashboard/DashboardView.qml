@@ -14,6 +14,10 @@ FocusScope {
     property bool serverConnected: false
     /// Since when serverConnected has its value: a Date, or undefined when nobody knows.
     property var connectionSince
+    /// Why there is no connection: a clause in the user's language, or empty when nobody knows.
+    property string connectionFailure
+    /// When the host tries to connect again: a Date, or undefined when nobody knows.
+    property var nextAttempt
     /// Since when the states of all stations and cameras have been known: a Date, or undefined while
     /// they are not. Before, nothing at the site is said to be well.
     property var statesSince
@@ -199,6 +203,8 @@ FocusScope {
             directory: directory
             serverConnected: root.serverConnected
             connectionSince: root.knownSince
+            connectionFailure: root.connectionFailure
+            nextAttempt: root.validDate(root.nextAttempt)
             statesSince: root.knownStatesSince
             files: root.files
             clipboard: root.clipboard

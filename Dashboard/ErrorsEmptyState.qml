@@ -7,6 +7,10 @@ EmptyState {
 
     property bool serverConnected: false
     property var connectionSince
+    /// Why there is no connection; empty when nobody knows.
+    property string connectionFailure
+    /// When the host tries to connect again: a Date, or undefined.
+    property var nextAttempt
     /// Since when the states of the devices have been known: a Date, or undefined.
     property var statesSince
     property int hidden: 0
@@ -20,6 +24,20 @@ EmptyState {
     readonly property string reason: !serverConnected ? "lost"
                                                       : hidden > 0 ? "filtered"
                                                                    : settling ? "settling" : "well"
+
+    readonly property string lostSince: connectionSince
+                                        ? qsTr("Nothing is known about the site since %1.")
+                                          .arg(Format.dateTime(connectionSince.getTime()))
+                                        : qsTr("Nothing is known about the site.")
+    readonly property string failure: connectionFailure === ""
+                                      ? "" : Format.fill(qsTr("Reason: %1"), connectionFailure)
+    readonly property string attempt: {
+        if (!nextAttempt)
+            return "";
+        const pause = (nextAttempt.getTime() - Clock.now) / 1000;
+        return pause > 0 ? qsTr("Next try in %1").arg(Format.duration(Math.ceil(pause)))
+                         : qsTr("Trying to connect")
+    }
 
     status: reason === "well" ? "good" : reason === "lost" ? "critical" : "unknown"
     glyph: reason === "filtered" ? "filter" : reason === "settling" ? "clock" : ""
@@ -38,9 +56,7 @@ EmptyState {
     detail: {
         switch (reason) {
         case "lost":
-            return connectionSince ? qsTr("Nothing is known about the site since %1.")
-                                     .arg(Format.dateTime(connectionSince.getTime()))
-                                   : qsTr("Nothing is known about the site.");
+            return [lostSince, failure, attempt].filter(line => line !== "").join("\n");
         case "filtered":
             return qsTr("Press Esc to show all errors.");
         case "settling":

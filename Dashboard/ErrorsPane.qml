@@ -9,6 +9,8 @@ Panel {
     required property StationDirectory directory
     property bool serverConnected: false
     property var connectionSince
+    property string connectionFailure
+    property var nextAttempt
     /// See DashboardView.statesSince.
     property var statesSince
     /// What writes files for the dashboard, or null; see DashboardView.files.
@@ -223,6 +225,8 @@ Panel {
                 visible: pane.shown.count === 0
                 serverConnected: pane.serverConnected
                 connectionSince: pane.connectionSince
+                connectionFailure: pane.connectionFailure
+                nextAttempt: pane.nextAttempt
                 statesSince: pane.statesSince
                 hidden: pane.total.count - pane.shown.count
             }

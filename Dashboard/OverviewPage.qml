@@ -9,6 +9,8 @@ FocusScope {
     required property StationDirectory directory
     property bool serverConnected: false
     property var connectionSince
+    property string connectionFailure
+    property var nextAttempt
     property var statesSince
     property var files: null
     property var clipboard: null
@@ -121,6 +123,8 @@ FocusScope {
         directory: page.directory
         serverConnected: page.serverConnected
         connectionSince: page.connectionSince
+        connectionFailure: page.connectionFailure
+        nextAttempt: page.nextAttempt
         statesSince: page.statesSince
         files: page.files
         clipboard: page.clipboard

@@ -336,6 +336,18 @@
         <source>The states of the devices are not known yet.</source>
         <translation>Die Zustände der Geräte sind noch nicht bekannt.</translation>
     </message>
+    <message>
+        <source>Reason: %1</source>
+        <translation>Grund: %1</translation>
+    </message>
+    <message>
+        <source>Next try in %1</source>
+        <translation>Nächster Versuch in %1</translation>
+    </message>
+    <message>
+        <source>Trying to connect</source>
+        <translation>Die Verbindung wird versucht</translation>
+    </message>
 </context>
 <context>
     <name>ErrorsPane</name>

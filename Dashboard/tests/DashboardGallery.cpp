@@ -352,6 +352,12 @@ bool draw(const Scene &scene, const QDir &folder)
         {QStringLiteral("stations"), SampleSite::stations(scene.well)},
         {QStringLiteral("files"), QVariant::fromValue<QObject *>(&files)},
     };
+    if (!scene.connected) {
+        properties.insert(QStringLiteral("connectionFailure"),
+                          QStringLiteral("Connection refused"));
+        properties.insert(QStringLiteral("nextAttempt"),
+                          QDateTime::fromMSecsSinceEpoch(SampleSite::now() + 12 * 1000));
+    }
     if (scene.statesKnown) {
         properties.insert(QStringLiteral("statesSince"),
                           QDateTime::fromMSecsSinceEpoch(SampleSite::now() - 5 * 60 * 1000));

@@ -254,6 +254,22 @@ Item {
             compare(state.Accessible.description, "Nothing is known about the site.");
         }
 
+        function test_lostServerSaysWhyAndWhenItIsTriedAgain() {
+            prepare({ "serverConnected": false, "connectionFailure": "%1 is refused",
+                      "nextAttempt": new Date(now + 2500) });
+            plugin.clearErrors();
+            tryVerify(() => inWindow("Server connection lost") !== null);
+            const state = inWindow("Server connection lost");
+            const lines = () => state.Accessible.description.split("\n").slice(1);
+            compare(lines(), ["Reason: %1 is refused", "Next try in 3 s"]);
+            Clock.now = now + 3 * second;
+            compare(lines(), ["Reason: %1 is refused", "Trying to connect"]);
+            pane.nextAttempt = undefined;
+            compare(lines(), ["Reason: %1 is refused"]);
+            pane.serverConnected = true;
+            compare(lines(), []);
+        }
+
         function test_snoozeNeedsASelectedDisconnectionAndAServer() {
             prepare();
             const button = inWindow("Snooze");

@@ -87,6 +87,10 @@
         <source>message: expected a hello first</source>
         <translation>Nachricht: erwartet: zuerst eine Begrüßung</translation>
     </message>
+    <message>
+        <source>too many commands at a time</source>
+        <translation>zu viele Befehle auf einmal</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>
@@ -296,6 +300,17 @@
     <message>
         <source>there is no answer for %1, which may be snoozed or not</source>
         <translation>keine Antwort zu %1; vielleicht zurückgestellt, vielleicht nicht</translation>
+    </message>
+    <message>
+        <source>no connection within %1 s; the run ends</source>
+        <translation>keine Verbindung binnen %1 s; der Lauf endet</translation>
+    </message>
+</context>
+<context>
+    <name>DashboardFeed</name>
+    <message>
+        <source>the server refuses this client for good: %1</source>
+        <translation>der Server weist diesen Client endgültig ab: %1</translation>
     </message>
 </context>
 <context>
@@ -632,10 +647,6 @@
         <translation>--page: erwartet: eine QML-Datei, gefunden: „%1“.</translation>
     </message>
     <message>
-        <source>--token-file: expected --server URL as well.</source>
-        <translation>--token-file: erwartet: auch --server URL.</translation>
-    </message>
-    <message>
         <source>--server: expected an address such as ws://127.0.0.1:8765, found &quot;%1&quot;.</source>
         <translation>--server: erwartet: eine Adresse wie ws://127.0.0.1:8765, gefunden: „%1“.</translation>
     </message>
@@ -742,10 +753,6 @@ einem Szenario der Ereignisse und der Auslastung dieses Rechners.
         <translation>--metrics: erwartet: ein Port von 0 bis 65535, gefunden: „%1“.</translation>
     </message>
     <message>
-        <source>What happens at the site: a JSON file, or the name of a bundled one (default, everything, flap, storm).</source>
-        <translation>Was am Standort geschieht: eine JSON-Datei oder der Name eines mitgelieferten Szenarios (default, everything, flap, storm).</translation>
-    </message>
-    <message>
         <source>Examples:
   workbench
       show the dashboard with the bundled site and scenario
@@ -774,6 +781,18 @@ einem Szenario der Ereignisse und der Auslastung dieses Rechners.
   workbench --headless --format json --ignore-errors
       ein JSON-Objekt je Zeile ausgeben, für ein Programm
 </translation>
+    </message>
+    <message>
+        <source>--%1: expected --server URL as well.</source>
+        <translation>--%1: erwartet: auch --server URL.</translation>
+    </message>
+    <message>
+        <source>What happens at the site: a JSON file, or the name of a bundled one (default, everything, flap, storm, watch).</source>
+        <translation>Was am Standort geschieht: eine JSON-Datei oder der Name eines mitgelieferten Szenarios (default, everything, flap, storm, watch).</translation>
+    </message>
+    <message>
+        <source>Without a window: end with exit code 3 when there has been no connection to that server for so long after the start. Without this it is waited for.</source>
+        <translation>Ohne Fenster: mit dem Rückgabewert 3 enden, wenn so lange nach dem Start keine Verbindung zu diesem Server besteht. Ohne diese Angabe wird auf ihn gewartet.</translation>
     </message>
 </context>
 <context>
@@ -831,6 +850,14 @@ einem Szenario der Ereignisse und der Auslastung dieses Rechners.
         <source>expected a welcome first</source>
         <translation>erwartet: zuerst ein Willkommen</translation>
     </message>
+    <message>
+        <source>message: expected text, found binary data</source>
+        <translation>Nachricht: erwartet: Text, gefunden: Binärdaten</translation>
+    </message>
+    <message>
+        <source>message: expected one welcome, found another</source>
+        <translation>Nachricht: erwartet: ein einziges Willkommen, gefunden: noch eines</translation>
+    </message>
 </context>
 <context>
     <name>ReplayRun</name>
@@ -880,6 +907,10 @@ einem Szenario der Ereignisse und der Auslastung dieses Rechners.
         <source>waiting for the server</source>
         <translation>warten auf den Server</translation>
     </message>
+    <message>
+        <source>%1 of %2 entries of the journal</source>
+        <translation>%1 von %2 Einträgen des Journals</translation>
+    </message>
 </context>
 <context>
     <name>ScenarioFile</name>
@@ -914,26 +945,6 @@ einem Szenario der Ereignisse und der Auslastung dieses Rechners.
     <message>
         <source>the id of a camera or station of the site</source>
         <translation>die Kennung einer Kamera oder Station des Standorts</translation>
-    </message>
-    <message>
-        <source>a station with cameras</source>
-        <translation>eine Station mit Kameras</translation>
-    </message>
-    <message>
-        <source>one without</source>
-        <translation>eine ohne</translation>
-    </message>
-    <message>
-        <source>at most %1 changes in all</source>
-        <translation>höchstens %1 Änderungen insgesamt</translation>
-    </message>
-    <message>
-        <source>nothing beside &quot;rate&quot;</source>
-        <translation>nichts neben „rate“</translation>
-    </message>
-    <message>
-        <source>a duration</source>
-        <translation>eine Dauer</translation>
     </message>
 </context>
 <context>
@@ -1100,10 +1111,44 @@ Zurückstellungen, die alle Clients teilen. Läuft, bis es beendet wird.
     </message>
 </context>
 <context>
+    <name>StandardOutput</name>
+    <message>
+        <source>The output cannot be written.</source>
+        <translation>Die Ausgabe kann nicht geschrieben werden.</translation>
+    </message>
+</context>
+<context>
     <name>StationWatch</name>
     <message>
         <source>the answer cannot be used: %1</source>
         <translation>die Antwort ist nicht brauchbar: %1</translation>
+    </message>
+</context>
+<context>
+    <name>StormReader</name>
+    <message>
+        <source>one of %1</source>
+        <translation>eines von %1</translation>
+    </message>
+    <message>
+        <source>a station with cameras</source>
+        <translation>eine Station mit Kameras</translation>
+    </message>
+    <message>
+        <source>one without</source>
+        <translation>eine ohne</translation>
+    </message>
+    <message>
+        <source>at most %1 changes in all</source>
+        <translation>höchstens %1 Änderungen insgesamt</translation>
+    </message>
+    <message>
+        <source>nothing beside &quot;rate&quot;</source>
+        <translation>nichts neben „rate“</translation>
+    </message>
+    <message>
+        <source>a duration</source>
+        <translation>eine Dauer</translation>
     </message>
 </context>
 <context>
@@ -1146,6 +1191,10 @@ Zurückstellungen, die alle Clients teilen. Läuft, bis es beendet wird.
     <message>
         <source>reading %1</source>
         <translation>%1 wird gelesen</translation>
+    </message>
+    <message>
+        <source>--connect-timeout: expected --headless as well.</source>
+        <translation>--connect-timeout: erwartet: auch --headless.</translation>
     </message>
 </context>
 <context>

@@ -10,7 +10,7 @@
 namespace ClientMessage {
 
 /// The version of the protocol that is spoken here.
-constexpr int ProtocolVersion = 2;
+constexpr int ProtocolVersion = 3;
 
 /// A longer message is refused.
 constexpr quint64 MaxBytes = quint64{1024} * 1024;

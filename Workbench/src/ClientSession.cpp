@@ -20,12 +20,14 @@ constexpr auto TryAgainLater = static_cast<QWebSocketProtocol::CloseCode>(1013);
 } // namespace
 
 ClientSession::ClientSession(std::unique_ptr<QWebSocket> socket, const AccessToken &token,
-                             SiteServer &server, Clock &clock, QObject *parent)
+                             SiteServer &server, Clock &clock, QObject *parent,
+                             qsizetype maxWaiting)
     : QObject(parent)
     , m_socket(std::move(socket))
     , m_token(token)
     , m_server(server)
     , m_clock(clock)
+    , m_maxWaiting(maxWaiting)
     , m_heartbeat(clock, Pace)
     , m_commands(server)
 {
@@ -63,7 +65,7 @@ void ClientSession::send(const QString &message)
 void ClientSession::welcome()
 {
     m_phase = Phase::Welcome;
-    send(toText(ServerMessage::Welcome{m_server.site(), m_server.snoozes()}));
+    send(toText(ServerMessage::Welcome{m_server.site(), m_server.snoozes(), m_clock.nowMs()}));
     m_heartbeat.start();
 }
 
@@ -94,7 +96,11 @@ void ClientSession::take(const QString &text)
         return;
     m_heartbeat.heard();
     try {
-        std::visit([this](const auto &message) { take(message); }, readClientMessage(text));
+        const AnyClientMessage message = readClientMessage(text);
+        if (const auto *const hello = std::get_if<ClientMessage::Hello>(&message))
+            take(*hello);
+        else
+            take(std::get<ClientMessage::Command>(message), text.size());
     } catch (const InputError &error) {
         refuse(error.message());
     }
@@ -110,12 +116,16 @@ void ClientSession::take(const ClientMessage::Hello &hello)
     Q_EMIT introduced();
 }
 
-void ClientSession::take(const ClientMessage::Command &command)
+void ClientSession::take(const ClientMessage::Command &command, qsizetype size)
 {
     if (m_phase == Phase::Unknown)
         return refuse(tr("message: expected a hello first"));
+    if (m_waiting + size > m_maxWaiting)
+        return sendAway(tr("too many commands at a time"));
+    m_waiting += size;
     m_commands.add({command.name, command.data, command.target},
-                   [this, id = command.id](const CommandResult &result) {
+                   [this, size, id = command.id](const CommandResult &result) {
+                       m_waiting -= size;
                        send(toText(ServerMessage::Result{id, result.code, result.data}));
                    });
 }

@@ -38,6 +38,7 @@ void CommandQueue::carryOut()
     if (!m_entries.empty())
         carryOutLater();
     std::vector<SiteCommand> commands;
+    commands.reserve(entries.size());
     for (const Entry &entry : entries)
         commands.push_back(entry.command);
     const std::vector<CommandResult> results = m_server.executeAll(commands);

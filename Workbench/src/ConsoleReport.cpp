@@ -52,6 +52,12 @@ void ConsoleReport::writePicture(const QString &file, bool isSaved)
               isSaved ? tr("saved as %1").arg(file) : tr("%1 cannot be written").arg(file));
 }
 
+void ConsoleReport::writeConnectTimeout(qint64 timeoutMs)
+{
+    writeLine(tr("server"), tr("no connection within %1 s; the run ends")
+                                .arg(QLocale().toString(static_cast<double>(timeoutMs) / 1000.0)));
+}
+
 void ConsoleReport::writeSummary()
 {
     m_out << '\n' << tr("Summary") << '\n';

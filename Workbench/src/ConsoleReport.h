@@ -22,6 +22,7 @@ public:
     void writeLine(const QString &word, const QString &text);
 
     void writePicture(const QString &file, bool isSaved) override;
+    void writeConnectTimeout(qint64 timeoutMs) override;
 
     /// Writes how many errors of each kind were raised, cleared and are listed still, and how many
     /// samples of this machine there were.

@@ -1,5 +1,6 @@
 #include "DashboardFeed.h"
 
+#include "Clock.h"
 #include "DashboardSnoozes.h"
 #include "DashboardWindow.h"
 #include "ServerLink.h"
@@ -18,9 +19,12 @@ bool tellsOfSnoozes(const QString &event)
 
 } // namespace
 
-DashboardFeed::DashboardFeed(const ServerLink &link, DashboardWindow &window, QObject *parent)
+DashboardFeed::DashboardFeed(const ServerLink &link, const Clock &clock, double rate,
+                             DashboardWindow &window, QObject *parent)
     : QObject(parent)
     , m_link(link)
+    , m_clock(clock)
+    , m_rate(rate)
     , m_window(window)
 {
     m_stationsDue.setSingleShot(true);
@@ -30,6 +34,13 @@ DashboardFeed::DashboardFeed(const ServerLink &link, DashboardWindow &window, QO
     connect(&link, &ServerLink::opened, this, &DashboardFeed::takeAll);
     connect(&link, &ServerLink::closed, this, &DashboardFeed::keepAll);
     connect(&link, &ServerLink::closed, this, [this] { takeStates(false); });
+    connect(&link, &ServerLink::attemptFailed, this, [this](const QString &reason, qint64 pauseMs) {
+        m_window.setConnectionFailure(reason, QDateTime::currentDateTime().addMSecs(pauseMs));
+    });
+    connect(&link, &ServerLink::refused, this, [this](const QString &reason) {
+        m_window.setConnectionFailure(tr("the server refuses this client for good: %1").arg(reason),
+                                      {});
+    });
     connect(&link, &ServerLink::eventRaised, this, [this](const QString &name) {
         if (tellsOfSnoozes(name))
             m_snoozesDue.start(0);
@@ -40,6 +51,7 @@ DashboardFeed::DashboardFeed(const ServerLink &link, DashboardWindow &window, QO
             m_stationsDue.start(0);
     });
     showConnection();
+    showTime();
 }
 
 void DashboardFeed::takeStates(bool areKnown)
@@ -50,6 +62,7 @@ void DashboardFeed::takeStates(bool areKnown)
 void DashboardFeed::takeAll()
 {
     showConnection();
+    showTime();
     showStations();
     showSnoozes();
 }
@@ -67,6 +80,12 @@ void DashboardFeed::keepAll()
 void DashboardFeed::showConnection()
 {
     m_window.setConnection(m_link.isOpen(), m_link.since());
+    m_window.setConnectionFailure({}, {});
+}
+
+void DashboardFeed::showTime()
+{
+    m_window.setServerTime(m_clock.nowMs() + m_link.clockAheadMs(), m_rate);
 }
 
 void DashboardFeed::showStations()

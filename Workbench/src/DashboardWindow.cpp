@@ -34,6 +34,12 @@ QString describe(const QQmlError &error, const QUrl &source)
              error.description());
 }
 
+// What is undefined in QML.
+QVariant dateOrNothing(const QDateTime &date)
+{
+    return date.isValid() ? QVariant(date) : QVariant();
+}
+
 [[noreturn]] void refuse(const QUrl &source, const QList<QQmlError> &errors)
 {
     QStringList lines;
@@ -95,6 +101,12 @@ void DashboardWindow::setConnection(bool isConnected, const QDateTime &since)
     rootObject()->setProperty("serverConnected", isConnected);
 }
 
+void DashboardWindow::setConnectionFailure(const QString &reason, const QDateTime &nextAttempt)
+{
+    rootObject()->setProperty("connectionFailure", reason);
+    rootObject()->setProperty("nextAttempt", dateOrNothing(nextAttempt));
+}
+
 void DashboardWindow::setServerTime(qint64 nowMs, double rate)
 {
     const auto realMs = static_cast<double>(QDateTime::currentMSecsSinceEpoch());
@@ -104,7 +116,7 @@ void DashboardWindow::setServerTime(qint64 nowMs, double rate)
 
 void DashboardWindow::setStatesSince(const QDateTime &since)
 {
-    rootObject()->setProperty("statesSince", since.isValid() ? QVariant(since) : QVariant());
+    rootObject()->setProperty("statesSince", dateOrNothing(since));
 }
 
 void DashboardWindow::setStations(const QVariantList &stations)

@@ -35,6 +35,10 @@ public:
     /// Tells the dashboard whether the server is connected, and since when that is so.
     void setConnection(bool isConnected, const QDateTime &since);
 
+    /// Tells the dashboard why there is no connection, and when it is tried again; an empty text
+    /// and a null date when there is nothing to tell.
+    void setConnectionFailure(const QString &reason, const QDateTime &nextAttempt);
+
     /// Tells the dashboard that the server's clock shows a time now, in milliseconds since the
     /// epoch, and how many seconds pass on it in a real one.
     void setServerTime(qint64 nowMs, double rate);

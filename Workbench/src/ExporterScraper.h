@@ -23,6 +23,9 @@ public:
                     QNetworkAccessManager &manager, QObject *parent = nullptr);
     ~ExporterScraper() override;
 
+    ExporterScraper(const ExporterScraper &) = delete;
+    ExporterScraper &operator=(const ExporterScraper &) = delete;
+
     /// What is asked for: the exporter's address with the collectors.
     const QUrl &url() const { return m_url; }
 

@@ -25,6 +25,15 @@ HeadlessRun::HeadlessRun(Workbench &workbench, RunReport &report, Screenshot *sc
     });
 }
 
+void HeadlessRun::limitConnecting(std::chrono::milliseconds timeout)
+{
+    m_patience.setSingleShot(true);
+    m_patience.setInterval(timeout);
+    connect(&m_patience, &QTimer::timeout, this, &HeadlessRun::giveUp);
+    connect(&m_workbench.link(), &ServerLink::opened, &m_patience, &QTimer::stop);
+    m_patience.start();
+}
+
 int HeadlessRun::exec()
 {
     m_workbench.start();
@@ -39,6 +48,12 @@ void HeadlessRun::takeScreenshot()
     m_report.writePicture(m_screenshot->fileName(), isSaved);
     if (!isSaved)
         m_exitCode = ExitCode::Failure;
+}
+
+void HeadlessRun::giveUp()
+{
+    m_report.writeConnectTimeout(m_patience.interval());
+    end();
 }
 
 void HeadlessRun::end()

@@ -26,6 +26,9 @@ public:
     Heartbeat(Clock &clock, const Pace &pace, QObject *parent = nullptr);
     ~Heartbeat() override;
 
+    Heartbeat(const Heartbeat &) = delete;
+    Heartbeat &operator=(const Heartbeat &) = delete;
+
     /// Pings at once, and then again and again.
     void start();
     void stop();

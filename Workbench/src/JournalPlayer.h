@@ -31,6 +31,10 @@ public:
     /// Answers the commands that the journal does not, so that the plug-in can let go of them.
     void finish();
 
+    /// How many entries the journal has, and how many of them were played.
+    std::size_t entryCount() const { return m_journal.entries.size(); }
+    std::size_t playedCount() const { return m_next; }
+
     /// The plug-in's error list.
     const QAbstractItemModel &errors() const { return *m_errors; }
     /// The topology as far as it was played.

@@ -13,6 +13,9 @@
 
 namespace {
 
+// Longer than any recording, and far from where the sum of two times would overflow.
+constexpr double LatestMs = 1e15;
+
 class Reader
 {
     Q_DECLARE_TR_FUNCTIONS(JournalReader)
@@ -64,7 +67,8 @@ bool hasShape(const QJsonObject &entry, const Shape &shape)
 
 bool isEntry(const QJsonObject &entry)
 {
-    if (entry.value(JournalKeys::At).toDouble(-1) < 0)
+    const double atMs = entry.value(JournalKeys::At).toDouble(-1);
+    if (atMs < 0 || atMs > LatestMs)
         return false;
     for (auto kind = shapes().begin(); kind != shapes().end(); ++kind) {
         if (entry.contains(kind.key()))

@@ -6,11 +6,26 @@
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QLocale>
 
 #include <cmath>
 #include <utility>
 
 namespace {
+
+bool isWhole(double number)
+{
+    return std::floor(number) == number;
+}
+
+// So that a number that is one too great does not read like the bound.
+QString inFull(double number)
+{
+    constexpr double MostInFull = 1e15;
+    return isWhole(number) && std::abs(number) <= MostInFull
+               ? QString::number(number, 'f', 0)
+               : QString::number(number, 'g', QLocale::FloatingPointShortest);
+}
 
 QString describe(const QJsonValue &value)
 {
@@ -22,7 +37,7 @@ QString describe(const QJsonValue &value)
     case QJsonValue::Bool:
         return value.toBool() ? QStringLiteral("true") : QStringLiteral("false");
     case QJsonValue::Double:
-        return JsonObject::tr("the number %1").arg(value.toDouble());
+        return JsonObject::tr("the number %1").arg(inFull(value.toDouble()));
     case QJsonValue::String:
         return value.toString().isEmpty() ? JsonObject::tr("an empty text")
                                           : JsonObject::tr("\"%1\"").arg(value.toString());
@@ -37,11 +52,6 @@ QString describe(const QJsonValue &value)
 qsizetype lineOf(const QByteArray &text, int offset)
 {
     return text.left(offset).count('\n') + 1;
-}
-
-bool isWhole(double number)
-{
-    return std::floor(number) == number;
 }
 
 } // namespace
@@ -82,7 +92,7 @@ bool JsonObject::has(const QString &key)
 
 QString JsonObject::text(const QString &key)
 {
-    const QString text = take(key).toString();
+    QString text = take(key).toString();
     if (text.isEmpty())
         failType(key, tr("a text"));
     return text;
@@ -106,7 +116,7 @@ double JsonObject::number(const QString &key, double least, double greatest)
     const QJsonValue value = take(key);
     const double number = value.toDouble();
     if (!value.isDouble() || number < least || number > greatest)
-        failType(key, tr("a number from %1 to %2").arg(least).arg(greatest));
+        failType(key, tr("a number from %1 to %2").arg(inFull(least), inFull(greatest)));
     return number;
 }
 

@@ -81,6 +81,11 @@ void JsonReport::writePicture(const QString &file, bool isSaved)
           {{QStringLiteral("file"), file}, {QStringLiteral("saved"), isSaved}});
 }
 
+void JsonReport::writeConnectTimeout(qint64 timeoutMs)
+{
+    write(QStringLiteral("connectTimeout"), {{QStringLiteral("timeoutMs"), timeoutMs}});
+}
+
 void JsonReport::writeSummary()
 {
     QJsonArray errors;

@@ -21,6 +21,7 @@ public:
     JsonReport(QTextStream &out, const Clock &clock, QObject *parent = nullptr);
 
     void writePicture(const QString &file, bool isSaved) override;
+    void writeConnectTimeout(qint64 timeoutMs) override;
 
     /// Writes the errors that are listed still and how many of each kind came and went.
     void writeSummary() override;

@@ -61,6 +61,10 @@ MetricsServer::MetricsServer(Workbench &workbench, quint16 port, const MetricsLi
     , m_metrics(workbench)
 {
     connect(&m_tcp, &QTcpServer::newConnection, this, &MetricsServer::takeConnections);
+    // Where there is no file descriptor left for a connection, Qt would never take one again.
+    connect(&m_tcp, &QTcpServer::acceptError, this, [this] {
+        QTimer::singleShot(m_limits.acceptPauseMs, &m_tcp, &QTcpServer::resumeAccepting);
+    });
     if (!m_tcp.listen(QHostAddress::LocalHost, port))
         throw HostError(
             tr("--metrics: port %1 cannot be used: %2").arg(port).arg(m_tcp.errorString()));

@@ -10,9 +10,10 @@ class QTcpSocket;
 /// What a client of a MetricsServer may take.
 struct MetricsLimits
 {
-    int requestBytes = 8192; ///< of a request line and headers
-    int connectionMs = 5000; ///< from the connection until the client has its answer
-    int connections = 16;    ///< at the same time
+    int requestBytes = 8192;  ///< of a request line and headers
+    int connectionMs = 5000;  ///< from the connection until the client has its answer
+    int connections = 16;     ///< at the same time
+    int acceptPauseMs = 1000; ///< without new connections, after one that could not be taken
 };
 
 /// Answers GET /metrics on this machine's loopback address with the figures of a Workbench.

@@ -24,10 +24,11 @@ struct Options
     QString screenshotFile;               ///< empty for none
     std::optional<qint64> screenshotAtMs; ///< of the scenario; the scenario decides without it
     std::optional<QString> logFile;
-    std::optional<quint16> metricsPort; ///< 0 for one that is free
-    QUrl serverUrl;                     ///< empty for a server in this process
-    QString tokenFile;                  ///< for the server, empty for none
-    QString storeFile;                  ///< of the server in this process, empty for none
+    std::optional<quint16> metricsPort;  ///< 0 for one that is free
+    QUrl serverUrl;                      ///< empty for a server in this process
+    QString tokenFile;                   ///< for the server, empty for none
+    std::optional<int> connectTimeoutMs; ///< without a window; it waits for the server without it
+    QString storeFile;                   ///< of the server in this process, empty for none
     QString language;
     ReportFormat format = ReportFormat::Text; ///< without a window
     double speed = 1.0;

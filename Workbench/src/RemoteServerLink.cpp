@@ -64,6 +64,8 @@ void RemoteServerLink::tryNow()
     connect(m_socket.get(), &QWebSocket::disconnected, this, [this] { retryLater(reasonOfEnd()); });
     connect(m_socket.get(), &QWebSocket::textMessageReceived, this,
             [this](const QString &text) { take(text); });
+    connect(m_socket.get(), &QWebSocket::binaryMessageReceived, this,
+            [this] { retryLater(tr("message: expected text, found binary data")); });
     connect(m_socket.get(), &QWebSocket::pong, &m_heartbeat, &Heartbeat::heard);
     m_wait = std::make_unique<QObject>();
     m_clock.callAfter(AttemptMs, m_wait.get(),
@@ -73,6 +75,7 @@ void RemoteServerLink::tryNow()
 
 void RemoteServerLink::sayHello()
 {
+    m_helloMs = m_clock.nowMs();
     m_socket->sendTextMessage(toText(ClientMessage::Hello{m_token.text()}));
 }
 
@@ -112,9 +115,10 @@ void RemoteServerLink::take(const QString &text)
     m_heartbeat.heard();
     try {
         const AnyServerMessage message = readServerMessage(text);
-        const bool isFirst = std::holds_alternative<ServerMessage::Welcome>(message)
-                             || std::holds_alternative<ServerMessage::Refused>(message);
-        if (!isOpen() && !isFirst)
+        const bool isWelcome = std::holds_alternative<ServerMessage::Welcome>(message);
+        if (isOpen() && isWelcome)
+            throw InputError(tr("message: expected one welcome, found another"));
+        if (!isOpen() && !isWelcome && !std::holds_alternative<ServerMessage::Refused>(message))
             throw InputError(tr("expected a welcome first"));
         std::visit([this](const auto &one) { take(one); }, message);
     } catch (const InputError &error) {
@@ -127,6 +131,8 @@ void RemoteServerLink::take(const ServerMessage::Welcome &welcome)
     // A server that welcomes and then fails is not to be asked several times a second.
     m_wait = std::make_unique<QObject>();
     m_clock.callAfter(ProvenMs, m_wait.get(), [this] { m_pauses.reset(); });
+    // The server has said its time halfway between the hello and now, as far as anybody can tell.
+    m_clockAheadMs = welcome.timeMs - (m_helloMs + m_clock.nowMs()) / 2;
     m_site = welcome.site;
     m_snoozes.clear();
     for (const Snooze &snooze : welcome.snoozes)

@@ -17,9 +17,9 @@ class QWebSocket;
 
 /// A connection to a site server in another process, over a WebSocket.
 ///
-/// It keeps a copy of the site and its snoozes, which the server's messages change. A connection
-/// that is lost, or whose server has been silent for two seconds and a half, is tried again after a
-/// pause, and again after longer ones.
+/// It keeps a copy of the site and its snoozes, which the server's messages change, and compares
+/// the clocks when it is welcomed. A connection that is lost, or whose server has been silent for
+/// two seconds and a half, is tried again after a pause, and again after longer ones.
 class RemoteServerLink : public ServerLink
 {
     Q_OBJECT
@@ -43,7 +43,11 @@ public:
                      RetryPauses pauses = RetryPauses(), QObject *parent = nullptr);
     ~RemoteServerLink() override;
 
+    RemoteServerLink(const RemoteServerLink &) = delete;
+    RemoteServerLink &operator=(const RemoteServerLink &) = delete;
+
     const Site &site() const override { return m_site; }
+    qint64 clockAheadMs() const override { return m_clockAheadMs; }
     std::vector<Snooze> snoozes() const override { return m_snoozes.all(); }
     void open() override;
     void close() override;
@@ -84,6 +88,8 @@ private:
     std::unique_ptr<QObject> m_wait;      // the context of the clock call that is waited for
     Site m_site;
     SnoozeList m_snoozes;
+    qint64 m_helloMs = 0; // when the last hello was said
+    qint64 m_clockAheadMs = 0;
     std::map<int, Question> m_questions; // commands without a result, by their ids
     int m_lastId = 0;
 };

@@ -4,8 +4,11 @@
 #include "ExitCode.h"
 #include "InputError.h"
 #include "JournalPlayer.h"
+#include "RunProgress.h"
 
 #include <QTextStream>
+
+#include <optional>
 
 ReplayRun::ReplayRun(JournalPlayer &player, const Journal &journal, QTextStream &out, bool lasts)
     : m_player(player)
@@ -26,8 +29,12 @@ int ReplayRun::exec()
         failedLine = line;
         QCoreApplication::quit();
     });
+    std::optional<RunProgress> progress;
+    if (!m_lasts)
+        progress.emplace(StatusLine::onStandardError(), m_player);
     m_player.start();
     QCoreApplication::exec();
+    progress.reset();
     m_player.finish();
     if (failedLine > 0)
         throw InputError(tr("%1: line %2: expected a change that fits the topology")

@@ -6,10 +6,13 @@
 #include <QObject>
 #include <QTimer>
 
+#include <functional>
+
+class JournalPlayer;
 class ScenarioDriver;
 
-/// Shows each second how far a scenario has been played, or what it waits for, until the object is
-/// gone.
+/// Shows each second how far a scenario or a journal has been played, or what it waits for, until
+/// the object is gone.
 class RunProgress : public QObject
 {
     Q_OBJECT
@@ -17,15 +20,22 @@ class RunProgress : public QObject
 public:
     /// @param driver plays the scenario; it must outlive the object
     RunProgress(StatusLine line, const ScenarioDriver &driver);
+    /// @param player plays the journal; it must outlive the object
+    RunProgress(StatusLine line, const JournalPlayer &player);
     ~RunProgress() override;
+
+    RunProgress(const RunProgress &) = delete;
+    RunProgress &operator=(const RunProgress &) = delete;
 
     void show() const;
 
 private:
-    QString text() const;
+    using Text = std::function<QString()>;
+
+    RunProgress(StatusLine line, Text text);
 
     const StatusLine m_line;
-    const ScenarioDriver &m_driver;
+    const Text m_text;
     QTimer m_timer;
 };
 

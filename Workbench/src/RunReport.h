@@ -45,6 +45,9 @@ public:
     /// Tells of a picture of the dashboard, which was to be saved in a file.
     virtual void writePicture(const QString &file, bool isSaved) = 0;
 
+    /// Tells that the run ends because the server was not connected within some time.
+    virtual void writeConnectTimeout(qint64 timeoutMs) = 0;
+
     /// Tells what has become of all, at the end.
     virtual void writeSummary() = 0;
 

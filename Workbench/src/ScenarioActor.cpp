@@ -43,7 +43,8 @@ void ScenarioActor::act(const ScenarioAction::SetServerConnected &action)
 
 void ScenarioActor::act(const ScenarioAction::Snooze &action)
 {
-    m_stage.surface.setSnooze(action.nodeId, endSeconds(m_stage.clock.nowMs(), action.durationMs),
+    const qint64 serverMs = m_stage.clock.nowMs() + m_stage.link.clockAheadMs();
+    m_stage.surface.setSnooze(action.nodeId, endSeconds(serverMs, action.durationMs),
                               action.errorType);
 }
 

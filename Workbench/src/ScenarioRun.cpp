@@ -86,7 +86,7 @@ std::unique_ptr<RunReport> createReport(ReportFormat format, QTextStream &out, c
 
 } // namespace
 
-ScenarioRun::ScenarioRun(const Options &options, const Site &site, const Scenario &scenario,
+ScenarioRun::ScenarioRun(const Options &options, const Site &site, Scenario scenario,
                          PluginHost &host)
     : m_options(options)
     , m_site(site)
@@ -98,7 +98,8 @@ ScenarioRun::ScenarioRun(const Options &options, const Site &site, const Scenari
     , m_local(openSite(options, site, m_clock, m_store.get()))
     , m_remote(openRemoteLink(options, m_clock))
     , m_workbench(host, m_engine ? m_engine->rootContext() : nullptr,
-                  m_remote ? *m_remote : m_local->link(), m_local.get(), scenario, m_log, m_clock)
+                  m_remote ? *m_remote : m_local->link(), m_local.get(), std::move(scenario), m_log,
+                  m_clock)
     , m_metrics(serveMetrics(options, m_workbench))
 {
     if (m_metrics) {
@@ -112,6 +113,7 @@ int ScenarioRun::exec()
     const int exitCode = m_engine ? playWithDashboard() : playHeadless(nullptr);
     if (m_recording)
         m_recording->finish();
+    m_out.expectWritten();
     return exitCode;
 }
 
@@ -121,13 +123,11 @@ int ScenarioRun::playWithDashboard()
     OperationalLogReader logReader(m_log, m_workbench.logPlugin());
     Preferences preferences(m_options.isHeadless ? QString() : Preferences::usualFile());
     DashboardWindow window(*m_engine, m_workbench.surface().plugin(),
-                           m_local ? m_site.name : m_options.serverUrl.toString(),
+                           m_local ? m_site.name : m_options.serverUrl.toDisplayString(),
                            DashboardWindow::pageUrl(m_options.pageFile));
-    DashboardFeed feed(m_workbench.link(), window);
+    DashboardFeed feed(m_workbench.link(), m_clock, m_options.speed, window);
     QObject::connect(&m_workbench.topology(), &TopologyPlugin::camStatusRetrievedChanged, &feed,
                      &DashboardFeed::takeStates);
-    if (m_local)
-        window.setServerTime(m_clock.nowMs(), m_options.speed);
     window.setFiles(files);
     window.setOperationalLog(logReader);
     window.setDark(preferences.isDark());
@@ -143,10 +143,13 @@ int ScenarioRun::playWithDashboard()
 
 int ScenarioRun::playHeadless(Screenshot *screenshot)
 {
-    QTextStream out(stdout);
-    const std::unique_ptr<RunReport> report = createReport(m_options.format, out, m_clock);
+    const std::unique_ptr<RunReport> report =
+        createReport(m_options.format, m_out.stream(), m_clock);
     report->follow(m_workbench);
     const RunProgress progress(StatusLine::onStandardError(), m_workbench.driver());
-    const int code = HeadlessRun(m_workbench, *report, screenshot).exec();
+    HeadlessRun run(m_workbench, *report, screenshot);
+    if (m_options.connectTimeoutMs)
+        run.limitConnecting(std::chrono::milliseconds(*m_options.connectTimeoutMs));
+    const int code = run.exec();
     return code == ExitCode::ErrorsRemain && m_options.ignoresErrors ? ExitCode::Success : code;
 }

@@ -10,6 +10,7 @@
 #include "ScaledClock.h"
 #include "ServerLink.h"
 #include "SnoozeStore.h"
+#include "StandardOutput.h"
 #include "Workbench.h"
 
 #include <QCoreApplication>
@@ -26,11 +27,10 @@ class ScenarioRun
     Q_DECLARE_TR_FUNCTIONS(ScenarioRun)
 
 public:
-    /// Throws InputError and HostError. All parameters must outlive the run.
+    /// Throws InputError and HostError. Options, site and host must outlive the run.
     ///
     /// @param host has loaded the plug-in
-    ScenarioRun(const Options &options, const Site &site, const Scenario &scenario,
-                PluginHost &host);
+    ScenarioRun(const Options &options, const Site &site, Scenario scenario, PluginHost &host);
 
     /// Runs the application, and returns its exit code. Throws InputError and HostError.
     int exec();
@@ -50,6 +50,7 @@ private:
     std::unique_ptr<ServerLink> m_remote; // null when the site is in this process
     Workbench m_workbench;
     std::unique_ptr<MetricsServer> m_metrics; // null when nobody asks for them
+    StandardOutput m_out;
 };
 
 #endif

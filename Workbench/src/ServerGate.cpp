@@ -1,6 +1,7 @@
 #include "ServerGate.h"
 
 #include "ClientSession.h"
+#include "Clock.h"
 #include "ServerMessages.h"
 #include "ServerNames.h"
 #include "SiteServer.h"
@@ -14,6 +15,9 @@
 namespace {
 
 constexpr int HandshakeMs = 5000;
+
+// How long the server takes no connections after it could not take one.
+constexpr qint64 AcceptPauseMs = 1000;
 
 // The node whose snooze an event is about; empty for other events.
 QString snoozedNode(const QString &event, const QVariant &data)
@@ -34,6 +38,10 @@ ServerGate::ServerGate(SiteServer &server, const AccessToken &token, Clock &cloc
 {
     m_listener.setHandshakeTimeout(HandshakeMs);
     connect(&m_listener, &QWebSocketServer::newConnection, this, &ServerGate::admit);
+    // Where there is no file descriptor left for a connection, Qt would never take one again.
+    connect(&m_listener, &QWebSocketServer::acceptError, this, [this] {
+        m_clock.callAfter(AcceptPauseMs, &m_listener, [this] { m_listener.resumeAccepting(); });
+    });
     // Only browsers name an origin: a page that its user looks at must not get at the server.
     connect(&m_listener, &QWebSocketServer::originAuthenticationRequired, this,
             [](QWebSocketCorsAuthenticator *request) {

@@ -35,6 +35,9 @@ public:
                QObject *parent = nullptr);
     ~ServerGate() override;
 
+    ServerGate(const ServerGate &) = delete;
+    ServerGate &operator=(const ServerGate &) = delete;
+
     /// Starts to listen; false, with errorText(), when the address cannot be had.
     ///
     /// @param port 0 for any that is free

@@ -35,6 +35,10 @@ public:
     /// The site as it is known while the link is open.
     virtual const Site &site() const = 0;
 
+    /// How far the server's clock is ahead of this process's, in milliseconds, as it was when the
+    /// link opened. A server in this process has the same clock.
+    virtual qint64 clockAheadMs() const { return 0; }
+
     /// The snoozes in force, as they are known while the link is open.
     virtual std::vector<Snooze> snoozes() const = 0;
 

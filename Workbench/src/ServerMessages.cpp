@@ -14,6 +14,7 @@ namespace {
 
 // The last second of the year 9999.
 constexpr double LatestEndSeconds = 253'402'300'799;
+constexpr double LatestTimeMs = LatestEndSeconds * 1000;
 
 const QString WelcomeType = QStringLiteral("welcome");
 const QString RefusedType = QStringLiteral("refused");
@@ -39,10 +40,11 @@ const QString NameKey = QStringLiteral("name");
 const QString SourceKey = QStringLiteral("source");
 const QString SnoozeKey = QStringLiteral("snooze");
 const QString SnoozesKey = QStringLiteral("snoozes");
+const QString TimeKey = QStringLiteral("time");
 
 Snooze readSnooze(JsonObject &object)
 {
-    const Snooze snooze{
+    Snooze snooze{
         object.text(ServerNames::KeyNodeId),
         object.wholeNumber(ServerNames::KeyType, ServerNames::CameraDisconnected,
                            ServerNames::StationDisconnected),
@@ -77,7 +79,8 @@ void writeSnoozes(const std::vector<Snooze> &snoozes, QJsonObject &object)
 Welcome readWelcome(JsonObject &object)
 {
     JsonObject site = object.object(SiteKey);
-    return {readSite(site), readSnoozes(object)};
+    return {readSite(site), readSnoozes(object),
+            static_cast<qint64>(object.number(TimeKey, 0, LatestTimeMs))};
 }
 
 Refused readRefused(JsonObject &object)
@@ -125,6 +128,7 @@ QString toText(const Welcome &welcome)
     QJsonObject object = Message::object(WelcomeType);
     object.insert(SiteKey, toJson(welcome.site));
     writeSnoozes(welcome.snoozes, object);
+    object.insert(TimeKey, welcome.timeMs);
     return Message::toText(object);
 }
 

@@ -21,6 +21,7 @@ struct Welcome
 {
     Site site;
     std::vector<Snooze> snoozes; ///< in force
+    qint64 timeMs = 0;           ///< of the server's clock, in milliseconds since the epoch
 };
 
 /// The last message on a connection that the server will not have.

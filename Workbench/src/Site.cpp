@@ -45,15 +45,6 @@ template <typename SiteType> auto findCameraIn(SiteType &site, const QString &id
     return station ? pointerById(station->cameras, id) : nullptr;
 }
 
-void visitBelow(const std::vector<Station> &stations,
-                const std::function<void(const Station &)> &visit)
-{
-    for (const Station &station : stations) {
-        visit(station);
-        visitBelow(station.stations, visit);
-    }
-}
-
 } // namespace
 
 Volume *Station::findVolume(const QString &volumeId)
@@ -70,6 +61,13 @@ bool Station::hasLostVolume() const
 {
     return std::any_of(volumes.begin(), volumes.end(),
                        [](const Volume &volume) { return !volume.connected; });
+}
+
+void Station::forEachStation(const std::function<void(const Station &)> &visit) const
+{
+    visit(*this);
+    for (const Station &below : stations)
+        below.forEachStation(visit);
 }
 
 const Station *Site::findStation(const QString &id) const
@@ -106,7 +104,8 @@ bool Site::removeStation(const QString &id)
 
 void Site::forEachStation(const std::function<void(const Station &)> &visit) const
 {
-    visitBelow(stations, visit);
+    for (const Station &station : stations)
+        station.forEachStation(visit);
 }
 
 int Site::stationCount() const

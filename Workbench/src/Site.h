@@ -75,6 +75,9 @@ struct Station
     /// Null when the station has no such group.
     RecordingGroup *findRecordingGroup(const QString &groupId);
     bool hasLostVolume() const;
+
+    /// Visits this station and every one below it, each before those below it.
+    void forEachStation(const std::function<void(const Station &)> &visit) const;
 };
 
 /// A video-surveillance site: a tree of stations and cameras, a plain value.

@@ -78,9 +78,7 @@ bool SiteServer::removeStation(const QString &stationId)
     if (!station)
         return false;
     QStringList gone;
-    Site below;
-    below.stations.push_back(*station);
-    below.forEachStation([&gone](const Station &removed) {
+    station->forEachStation([&gone](const Station &removed) {
         gone.append(removed.id);
         for (const Camera &camera : removed.cameras)
             gone.append(camera.id);
@@ -132,10 +130,7 @@ bool SiteServer::renameRecordingGroup(const QString &stationId, const QString &g
 bool SiteServer::reportResources(const QString &stationId, const ResourceReport &report)
 {
     const Station *const station = m_site.findStation(stationId);
-    if (!station || !station->connected || !station->supportsMonitoring)
-        return false;
-    raise(ServerNames::SystemResChanged, toEventData(report), stationId);
-    return true;
+    return station && raiseReport(*station, report);
 }
 
 bool SiteServer::setResources(const QString &stationId, const ResourceReport &level)
@@ -178,6 +173,14 @@ void SiteServer::announceStorage(const Station &station)
         announceStorage(below);
 }
 
+bool SiteServer::raiseReport(const Station &station, const ResourceReport &resources)
+{
+    if (!station.connected || !station.supportsMonitoring)
+        return false;
+    raise(ServerNames::SystemResChanged, toEventData(resources), station.id);
+    return true;
+}
+
 void SiteServer::raise(const QString &name, const QVariant &data, const QString &sourceId)
 {
     QMetaObject::invokeMethod(
@@ -190,8 +193,8 @@ void SiteServer::reportAll()
     ++m_reportCount;
     m_site.forEachStation([this](const Station &station) {
         if (station.resources && !station.exporter)
-            reportResources(station.id,
-                            livelyReport(*station.resources, qHash(station.id), m_reportCount));
+            raiseReport(station,
+                        livelyReport(*station.resources, qHash(station.id), m_reportCount));
     });
     m_clock.callAfter(ReportIntervalMs, this, [this] { reportAll(); });
 }

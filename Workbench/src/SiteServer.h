@@ -99,6 +99,7 @@ Q_SIGNALS:
 private:
     void announceDisconnected(const Station &station);
     void announceStorage(const Station &station);
+    bool raiseReport(const Station &station, const ResourceReport &resources);
     void raise(const QString &name, const QVariant &data, const QString &sourceId = {});
 
     QString verdictOn(const Snooze &snooze) const;

@@ -24,6 +24,9 @@ public:
     SiteWatch(SiteServer &server, const Site &site, QObject *parent = nullptr);
     ~SiteWatch() override;
 
+    SiteWatch(const SiteWatch &) = delete;
+    SiteWatch &operator=(const SiteWatch &) = delete;
+
     void start();
 
 Q_SIGNALS:

@@ -18,24 +18,31 @@ qint64 timeOf(int change, const Storm &storm, qint64 startMs)
     return startMs + change * storm.durationMs / storm.changeCount;
 }
 
-std::vector<ScenarioEvent> oneChangeEach(const Storm &storm, qint64 startMs)
+// A list that doubles while a large storm is appended needs three times the room for a moment. For
+// small storms, one after another, doubling is right.
+void makeRoom(const Storm &storm, std::vector<ScenarioEvent> &events)
 {
-    const bool connected = storm.change == StormChange::Up;
-    std::vector<ScenarioEvent> events;
-    for (const QString &id : storm.cameraIds) {
-        const auto number = static_cast<int>(events.size());
-        events.push_back(
-            {timeOf(number, storm, startMs), ScenarioAction::SetCameraConnected{id, connected}});
-    }
-    return events;
+    const auto count = static_cast<std::size_t>(storm.changeCount)
+                       + static_cast<std::size_t>(storm.cameraIds.size());
+    if (count > events.size())
+        events.reserve(events.size() + count);
 }
 
-std::vector<ScenarioEvent> manyChanges(const Storm &storm, qint64 startMs, QRandomGenerator &chance)
+void appendOneChangeEach(const Storm &storm, qint64 startMs, std::vector<ScenarioEvent> &events)
+{
+    const bool connected = storm.change == StormChange::Up;
+    int number = 0;
+    for (const QString &id : storm.cameraIds)
+        events.push_back(
+            {timeOf(number++, storm, startMs), ScenarioAction::SetCameraConnected{id, connected}});
+}
+
+void appendManyChanges(const Storm &storm, qint64 startMs, QRandomGenerator &chance,
+                       std::vector<ScenarioEvent> &events)
 {
     const int cameraCount = static_cast<int>(storm.cameraIds.size());
     QStringList turn = storm.cameraIds;
     QSet<QString> down;
-    std::vector<ScenarioEvent> events;
     for (int number = 0; number < storm.changeCount; ++number) {
         const int position = number % cameraCount;
         if (position == 0)
@@ -52,7 +59,6 @@ std::vector<ScenarioEvent> manyChanges(const Storm &storm, qint64 startMs, QRand
             events.push_back(
                 {startMs + storm.durationMs, ScenarioAction::SetCameraConnected{id, true}});
     }
-    return events;
 }
 
 } // namespace
@@ -63,8 +69,12 @@ QStringList chooseCameras(QStringList cameraIds, qsizetype count, QRandomGenerat
     return cameraIds.mid(0, count);
 }
 
-std::vector<ScenarioEvent> stormEvents(const Storm &storm, qint64 startMs, QRandomGenerator &chance)
+void appendStorm(const Storm &storm, qint64 startMs, QRandomGenerator &chance,
+                 std::vector<ScenarioEvent> &events)
 {
-    return storm.change == StormChange::Flap ? manyChanges(storm, startMs, chance)
-                                             : oneChangeEach(storm, startMs);
+    makeRoom(storm, events);
+    if (storm.change == StormChange::Flap)
+        appendManyChanges(storm, startMs, chance, events);
+    else
+        appendOneChangeEach(storm, startMs, events);
 }

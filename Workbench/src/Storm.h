@@ -29,12 +29,12 @@ struct Storm
 /// @return the chosen ones, in an order by chance
 QStringList chooseCameras(QStringList cameraIds, qsizetype count, QRandomGenerator &chance);
 
-/// The changes of a storm that starts at a time, in the order of their times.
+/// Appends the changes of a storm that starts at a time, in the order of their times.
 ///
 /// Without flapping, the cameras change in the order given. Flapping ones take turns: in a first
 /// round each is lost, in a second one each comes back, and so on, every round in an order by
 /// chance; those that are down when the changes are used up come back at the storm's end.
-std::vector<ScenarioEvent> stormEvents(const Storm &storm, qint64 startMs,
-                                       QRandomGenerator &chance);
+void appendStorm(const Storm &storm, qint64 startMs, QRandomGenerator &chance,
+                 std::vector<ScenarioEvent> &events);
 
 #endif

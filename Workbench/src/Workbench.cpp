@@ -9,7 +9,7 @@
 #include <utility>
 
 Workbench::Workbench(PluginHost &host, QQmlContext *context, ServerLink &link, LocalSite *site,
-                     const Scenario &scenario, OperationalLogStore &log, Clock &clock)
+                     Scenario scenario, OperationalLogStore &log, Clock &clock)
     : m_host(host)
     , m_link(link)
     , m_site(site)
@@ -19,7 +19,7 @@ Workbench::Workbench(PluginHost &host, QQmlContext *context, ServerLink &link, L
     })
     , m_recording(m_framework, m_link)
     , m_logPlugin(log, clock)
-    , m_driver(scenario, clock)
+    , m_driver(std::move(scenario), clock)
 {
     wirePlugins(context);
     m_surface = std::make_unique<PluginSurface>(*host.plugin());
@@ -87,14 +87,18 @@ void Workbench::wireSite(LocalSite &site)
 }
 
 // A site in another process comes with all its states. They are announced from the event loop, when
-// everyone has heard of the connection.
+// everyone has heard of the connection, unless it is lost by then.
 void Workbench::takeSite()
 {
     m_topology.setSite(m_link.site());
     m_host.serverConnected();
     if (!m_site)
         QMetaObject::invokeMethod(
-            &m_topology, [this] { m_topology.announceStatesRetrieved(true); },
+            &m_topology,
+            [this] {
+                if (m_link.isOpen())
+                    m_topology.announceStatesRetrieved(true);
+            },
             Qt::QueuedConnection);
     if (std::exchange(m_isScenarioDue, false))
         m_driver.start();

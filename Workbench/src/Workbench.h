@@ -37,8 +37,11 @@ public:
     ///
     /// Throws HostError when the plug-in cannot be used.
     Workbench(PluginHost &host, QQmlContext *context, ServerLink &link, LocalSite *site,
-              const Scenario &scenario, OperationalLogStore &log, Clock &clock);
+              Scenario scenario, OperationalLogStore &log, Clock &clock);
     ~Workbench() override;
+
+    Workbench(const Workbench &) = delete;
+    Workbench &operator=(const Workbench &) = delete;
 
     /// Connects the server and, once it is connected, plays the scenario; again with the site as
     /// it was at first.

@@ -19,6 +19,7 @@
 #include "ScenarioRun.h"
 #include "SiteFile.h"
 #include "SlowNotice.h"
+#include "StandardOutput.h"
 
 #include <QGuiApplication>
 #include <QProcessEnvironment>
@@ -56,11 +57,15 @@ std::unique_ptr<QCoreApplication> createApplication(const Options &options, int 
     return std::make_unique<QGuiApplication>(argc, argv);
 }
 
+SlowNotice whileReading(const QString &fileName)
+{
+    return SlowNotice(StatusLine::onStandardError(),
+                      QCoreApplication::translate("main", "reading %1").arg(fileName));
+}
+
 Site readSite(const Options &options)
 {
-    const SlowNotice notice(
-        StatusLine::onStandardError(),
-        QCoreApplication::translate("main", "reading %1").arg(options.siteFile));
+    const SlowNotice notice = whileReading(options.siteFile);
     Site site = readSiteFile(options.siteFile);
     site.stations.push_back(LocalStation::station());
     return site;
@@ -68,6 +73,7 @@ Site readSite(const Options &options)
 
 Scenario readScenario(const Options &options, const Site &site)
 {
+    const SlowNotice notice = whileReading(options.scenarioFile);
     Scenario scenario = readScenarioFile(options.scenarioFile, site, options.seed);
     if (options.screenshotAtMs) {
         scenario.screenshotAtMs = options.screenshotAtMs;
@@ -83,6 +89,9 @@ void expectFittingOptions(const Options &options)
     if (!options.isHeadless && options.format != ReportFormat::Text)
         throw InputError(
             QCoreApplication::translate("main", "--format: expected --headless as well."));
+    if (!options.isHeadless && options.connectTimeoutMs)
+        throw InputError(
+            QCoreApplication::translate("main", "--connect-timeout: expected --headless as well."));
 }
 
 QString pluginFile(const Options &options)
@@ -94,15 +103,21 @@ int play(const Options &options, Catalogues &catalogues)
 {
     expectFittingOptions(options);
     const Site site = readSite(options);
-    const Scenario scenario = readScenario(options, site);
+    Scenario scenario = readScenario(options, site);
     PluginHost host(pluginFile(options));
     catalogues.installNew();
-    return ScenarioRun(options, site, scenario, host).exec();
+    return ScenarioRun(options, site, std::move(scenario), host).exec();
+}
+
+Journal readRecording(const Options &options)
+{
+    const SlowNotice notice = whileReading(options.replayFile);
+    return readJournal(options.replayFile);
 }
 
 int replay(const Options &options, Catalogues &catalogues)
 {
-    const Journal journal = readJournal(options.replayFile);
+    const Journal journal = readRecording(options);
     PluginHost host(pluginFile(options));
     if (journal.pluginId != host.pluginId())
         throw InputError(QCoreApplication::translate(
@@ -127,11 +142,12 @@ int replay(const Options &options, Catalogues &catalogues)
         window->setDark(preferences.isDark());
         window->show();
     }
-    QTextStream out(stdout);
-    const int code = ReplayRun(player, journal, out, window != nullptr).exec();
+    StandardOutput out;
+    const int code = ReplayRun(player, journal, out.stream(), window != nullptr).exec();
     feed.reset();
     window.reset();
     host.destroy();
+    out.expectWritten();
     return code;
 }
 

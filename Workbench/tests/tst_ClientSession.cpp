@@ -6,12 +6,13 @@
 
 #include <QTest>
 #include <QWebSocket>
+#include <QWebSocketServer>
 
 #include <memory>
 
 namespace {
 
-const QByteArray Hello = QByteArrayLiteral(R"({"type":"hello","protocol":2})");
+const QByteArray Hello = QByteArrayLiteral(R"({"type":"hello","protocol":3})");
 
 QByteArray nested(int depth)
 {
@@ -51,6 +52,7 @@ private Q_SLOTS:
     void clientWithoutAHelloIsDropped();
     void silentClientIsDropped();
     void clientThatDoesNotReadIsDropped();
+    void clientThatAsksFasterThanItIsServedIsSentAway();
 
 private:
     void serve(const AccessToken &token = {});
@@ -159,11 +161,11 @@ void tst_ClientSession::messagesThatAreNotUnderstoodAreRefused_data()
         "message: protocol: expected a whole number from 0 to 2147483647, found nothing");
     row("version as text", false, R"({"type":"hello","protocol":"1"})",
         R"(message: protocol: expected a whole number from 0 to 2147483647, found \"1\")");
-    row("another version", false, R"({"type":"hello","protocol":3,"colour":"red"})",
-        "message: protocol: expected version 2, found version 3");
-    row("token is a list", false, R"({"type":"hello","protocol":2,"token":[]})",
+    row("another version", false, R"({"type":"hello","protocol":2,"colour":"red"})",
+        "message: protocol: expected version 3, found version 2");
+    row("token is a list", false, R"({"type":"hello","protocol":3,"token":[]})",
         "message: token: expected a text, found a list");
-    row("unknown key", false, R"({"type":"hello","protocol":2,"colour":"red"})",
+    row("unknown key", false, R"({"type":"hello","protocol":3,"colour":"red"})",
         "message: colour: expected one of the keys protocol, token, type, found an unknown key");
     row("command before the hello", false, R"({"type":"command","id":1,"name":"getSnoozeList"})",
         "message: expected a hello first");
@@ -173,7 +175,7 @@ void tst_ClientSession::messagesThatAreNotUnderstoodAreRefused_data()
     row("fraction as id", true, R"({"type":"command","id":1.5,"name":"x"})",
         "message: id: expected a whole number from 0 to 2147483647, found the number 1.5");
     row("id too great", true, R"({"type":"command","id":2147483648,"name":"x"})",
-        "message: id: expected a whole number from 0 to 2147483647, found the number 2.14748e+09");
+        "message: id: expected a whole number from 0 to 2147483647, found the number 2147483648");
     row("command without a name", true, R"({"type":"command","id":1})",
         "message: name: expected a text, found nothing");
     row("command with an empty name", true, R"({"type":"command","id":1,"name":""})",
@@ -263,7 +265,7 @@ void tst_ClientSession::tokenIsAskedFor()
     const TextFile file("correct-horse-battery\n");
     serve(AccessToken::fromFile(file.path()));
     RawClient client(m_site->gate.url());
-    client.sendText(R"({"type":"hello","protocol":2)" + token + '}');
+    client.sendText(R"({"type":"hello","protocol":3)" + token + '}');
     const QByteArray text = lastText(client, 1);
     if (answer.isEmpty())
         QVERIFY(text.contains(R"("type":"welcome")"));
@@ -305,6 +307,33 @@ void tst_ClientSession::clientThatDoesNotReadIsDropped()
         QCoreApplication::processEvents();
     }
     QTRY_COMPARE(m_site->gate.connectionCount(), std::size_t(0));
+}
+
+// What arrives at a time waits together; what has been answered counts no more.
+void tst_ClientSession::clientThatAsksFasterThanItIsServedIsSentAway()
+{
+    const QByteArray command = R"({"type":"command","id":1,"name":"getSnoozeList"})";
+    QWebSocketServer listener(QString(), QWebSocketServer::NonSecureMode);
+    QVERIFY(listener.listen(QHostAddress::LocalHost));
+    RawClient client(listener.serverUrl());
+    QTRY_VERIFY(listener.hasPendingConnections());
+    std::unique_ptr<QWebSocket> socket(listener.nextPendingConnection());
+    socket->setParent(nullptr);
+    ClientSession session(std::move(socket), {}, m_site->server, m_site->clock, nullptr,
+                          2 * command.size());
+    connect(&session, &ClientSession::introduced, &session, &ClientSession::welcome);
+    client.sendText(Hello);
+    lastText(client, 1);
+    for (int i = 0; i < 5; ++i) {
+        client.sendText(command);
+        lastText(client, 2 + i);
+    }
+    const auto texts = [&client] { return client.texts().mid(6); };
+    QCOMPARE(texts().size(), 0);
+    for (int i = 0; i < 3; ++i)
+        client.sendText(command);
+    QTRY_COMPARE(client.closeCode(), 1013);
+    QCOMPARE(texts(), QList<QByteArray>{refusal("too many commands at a time", "false")});
 }
 
 QTEST_GUILESS_MAIN(tst_ClientSession)

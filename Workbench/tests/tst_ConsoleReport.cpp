@@ -154,6 +154,7 @@ void tst_ConsoleReport::writesWhatTheServerDoes()
     workbench.link().close();
     Q_EMIT workbench.link().attemptFailed(QStringLiteral("Connection refused"), 1250);
     Q_EMIT workbench.link().refused(QStringLiteral("the token is wrong"));
+    m_report->writeConnectTimeout(30'000);
     QCOMPARE(takeLines(),
              QStringList({QStringLiteral("server    connected"),
                           QStringLiteral("states    the states of all nodes were retrieved"),
@@ -164,7 +165,8 @@ void tst_ConsoleReport::writesWhatTheServerDoes()
                           QStringLiteral("expired   the snooze of south"),
                           QStringLiteral("server    connection lost"),
                           QStringLiteral("server    Connection refused; next try in 1.3 s"),
-                          QStringLiteral("server    refuses this client: the token is wrong")}));
+                          QStringLiteral("server    refuses this client: the token is wrong"),
+                          QStringLiteral("server    no connection within 30 s; the run ends")}));
 }
 
 void tst_ConsoleReport::writesWhichRealNodesAnswer()

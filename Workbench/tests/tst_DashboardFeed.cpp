@@ -1,7 +1,7 @@
 #include "DashboardFeed.h"
 
+#include "AheadLink.h"
 #include "DashboardWindow.h"
-#include "LocalServerLink.h"
 #include "ServerNames.h"
 #include "TestSite.h"
 #include "VirtualClock.h"
@@ -23,6 +23,8 @@ private Q_SLOTS:
 
     void showsTheConnectionAtOnce();
     void followsTheConnection();
+    void tellsWhyThereIsNoConnection();
+    void tellsTheTimeOfTheServer();
     void statesAreKnownUntilTheConnectionIsLost();
     void statesThatCouldNotBeFetchedAreUnknown();
     void followsTheStations();
@@ -52,7 +54,7 @@ void tst_DashboardFeed::init()
     m_link = std::make_unique<LocalServerLink>(*m_server);
     m_window = std::make_unique<DashboardWindow>(
         m_engine, m_plugin, QString(), QUrl::fromLocalFile(QFINDTESTDATA("data/Dashboard.qml")));
-    m_feed = std::make_unique<DashboardFeed>(*m_link, *m_window);
+    m_feed = std::make_unique<DashboardFeed>(*m_link, m_clock, 1.0, *m_window);
 }
 
 void tst_DashboardFeed::cleanup()
@@ -116,6 +118,40 @@ void tst_DashboardFeed::followsTheConnection()
     m_link->close();
     QCOMPARE(shown("serverConnected").toBool(), false);
     QCOMPARE(shown("connectionSince").toDateTime(), m_link->since());
+}
+
+void tst_DashboardFeed::tellsWhyThereIsNoConnection()
+{
+    QCOMPARE(shown("connectionFailure").toString(), QString());
+    const QDateTime before = QDateTime::currentDateTime();
+    Q_EMIT m_link->attemptFailed(QStringLiteral("Connection refused"), 500);
+    QCOMPARE(shown("connectionFailure").toString(), QStringLiteral("Connection refused"));
+    QVERIFY(shown("nextAttempt").toDateTime() >= before.addMSecs(500));
+    QVERIFY(shown("nextAttempt").toDateTime() <= QDateTime::currentDateTime().addMSecs(500));
+
+    Q_EMIT m_link->refused(QStringLiteral("the token is wrong"));
+    QCOMPARE(shown("connectionFailure").toString(),
+             QStringLiteral("the server refuses this client for good: the token is wrong"));
+    QVERIFY(!shown("nextAttempt").isValid());
+
+    Q_EMIT m_link->attemptFailed(QStringLiteral("Connection refused"), 500);
+    m_link->open();
+    QCOMPARE(shown("connectionFailure").toString(), QString());
+    QVERIFY(!shown("nextAttempt").isValid());
+}
+
+void tst_DashboardFeed::tellsTheTimeOfTheServer()
+{
+    AheadLink link(*m_server);
+    const DashboardFeed feed(link, m_clock, 2.0, *m_window);
+    const qint64 before = QDateTime::currentMSecsSinceEpoch();
+    link.open();
+    const qint64 after = QDateTime::currentMSecsSinceEpoch();
+    QCOMPARE(shown("serverRate").toDouble(), 2.0);
+    const double offset = shown("serverOffset").toDouble();
+    const qint64 serverMs = m_clock.nowMs() + AheadLink::AheadMs;
+    QVERIFY(offset <= static_cast<double>(serverMs - 2 * before));
+    QVERIFY(offset >= static_cast<double>(serverMs - 2 * after));
 }
 
 void tst_DashboardFeed::statesAreKnownUntilTheConnectionIsLost()

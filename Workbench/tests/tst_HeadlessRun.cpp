@@ -13,8 +13,10 @@
 #include <QTextStream>
 #include <QTimer>
 
+#include <chrono>
 #include <functional>
 #include <memory>
+#include <optional>
 
 namespace {
 
@@ -22,6 +24,14 @@ void addError(ErrorModel &errors)
 {
     errors.add(QStringLiteral("5_a"), 5, QStringLiteral("Volume"), QStringLiteral("A"));
 }
+
+// Leads to a server that cannot be reached.
+class ClosedLink : public LocalServerLink
+{
+public:
+    using LocalServerLink::LocalServerLink;
+    void open() override { }
+};
 
 } // namespace
 
@@ -41,6 +51,8 @@ private Q_SLOTS:
     void connectionThatIsMissingInTheEndShowsInTheExitCode();
     void failureOutweighsErrorsThatRemain();
     void refusalEndsTheRun();
+    void serverThatIsNotConnectedInTimeEndsTheRun();
+    void connectionInTimeIsEnough();
 
 private:
     int run(const Scenario &scenario, const QString &picture = {});
@@ -50,6 +62,7 @@ private:
     std::unique_ptr<WorkbenchFixture> m_fixture;
     std::unique_ptr<DashboardWindow> m_window;
     QString m_output;
+    std::optional<std::chrono::milliseconds> m_connectTimeout;
     std::function<void(ErrorModel &)> m_atEnd; // is done to the error list
 };
 
@@ -58,6 +71,7 @@ void tst_HeadlessRun::cleanup()
     m_window.reset();
     m_fixture.reset();
     m_atEnd = nullptr;
+    m_connectTimeout.reset();
 }
 
 int tst_HeadlessRun::run(const Scenario &scenario, const QString &picture)
@@ -74,6 +88,8 @@ int tst_HeadlessRun::run(const Scenario &scenario, const QString &picture)
     ConsoleReport report(out, m_fixture->clock);
     report.follow(m_fixture->workbench);
     HeadlessRun run(m_fixture->workbench, report, picture.isEmpty() ? nullptr : &screenshot);
+    if (m_connectTimeout)
+        run.limitConnecting(*m_connectTimeout);
     QTimer::singleShot(0, this, [this] {
         m_fixture->clock.advance(60'000);
         if (m_atEnd)
@@ -159,6 +175,33 @@ void tst_HeadlessRun::refusalEndsTheRun()
     QCOMPARE(run({{}, {}, 600'000}), ExitCode::Failure);
     QVERIFY(m_output.contains(QStringLiteral("refuses this client: the token is wrong")));
     QVERIFY(m_output.contains(QStringLiteral("Summary")));
+}
+
+void tst_HeadlessRun::serverThatIsNotConnectedInTimeEndsTheRun()
+{
+    VirtualClock clock;
+    PluginHost host(QStringLiteral(TEST_PLUGIN_FOLDER "/FakeMonitorPlugin.so"));
+    OperationalLogStore log{QString()};
+    SiteServer server(testSite(), clock);
+    ClosedLink link(server);
+    Workbench workbench(host, nullptr, link, nullptr, {}, log, clock);
+    m_output.clear();
+    QTextStream out(&m_output);
+    ConsoleReport report(out, clock);
+    report.follow(workbench);
+    HeadlessRun run(workbench, report, nullptr);
+    run.limitConnecting(std::chrono::milliseconds(1));
+    QCOMPARE(run.exec(), ExitCode::Failure);
+    QVERIFY(
+        m_output.contains(QStringLiteral("server    no connection within 0.001 s; the run ends")));
+    QVERIFY(m_output.contains(QStringLiteral("Summary")));
+}
+
+void tst_HeadlessRun::connectionInTimeIsEnough()
+{
+    m_connectTimeout = std::chrono::milliseconds(0);
+    QCOMPARE(run({{}, {}, 1000}), ExitCode::Success);
+    QVERIFY(!m_output.contains(QStringLiteral("no connection")));
 }
 
 QTEST_MAIN(tst_HeadlessRun)

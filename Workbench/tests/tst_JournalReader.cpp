@@ -102,6 +102,8 @@ void tst_JournalReader::foreignAndDamagedFilesAreRefused_data()
     row("second header", Header + Header, noEntry);
     row("no time", Header + "{\"server\":true}\n", noEntry);
     row("time before the start", Header + "{\"at\":-1,\"server\":true}\n", noEntry);
+    row("time beyond all times", Header + "{\"at\":9223372036854775807,\"server\":true}\n",
+        noEntry);
     row("unknown kind", Header + "{\"at\":1,\"sleep\":true}\n", noEntry);
     row("kind of another type", Header + "{\"at\":1,\"server\":\"yes\"}\n", noEntry);
     row("call without arguments", Header + "{\"at\":1,\"call\":\"x\"}\n", noEntry);

@@ -36,6 +36,8 @@ private Q_SLOTS:
     void wrongValuesNameKeyExpectationAndFinding();
     void numbersAreBounded_data();
     void numbersAreBounded();
+    void numbersAreNamedInFull_data();
+    void numbersAreNamedInFull();
     void wrongEntryOfAListIsNamed();
     void keyThatIsWrittenTwiceIsNamed();
     void unknownKeyNamesTheKnownOnes();
@@ -191,6 +193,28 @@ void tst_JsonObject::numbersAreBounded()
           "isNumber");
     QTEST(failureOf(text, [&key](JsonObject &object) { object.wholeNumber(key, 1, 9); }).isEmpty(),
           "isWhole");
+}
+
+void tst_JsonObject::numbersAreNamedInFull_data()
+{
+    QTest::addColumn<QByteArray>("value");
+    QTest::addColumn<QString>("found");
+    QTest::newRow("one too great") << QByteArray("1000001") << QStringLiteral("1000001");
+    QTest::newRow("negative") << QByteArray("-12345678") << QStringLiteral("-12345678");
+    QTest::newRow("fraction") << QByteArray("1000000.25") << QStringLiteral("1000000.25");
+    QTest::newRow("huge") << QByteArray("1e300") << QStringLiteral("1e+300");
+}
+
+void tst_JsonObject::numbersAreNamedInFull()
+{
+    QFETCH(QByteArray, value);
+    QFETCH(QString, found);
+    const auto read = [](JsonObject &object) {
+        object.number(QStringLiteral("k"), 0.001, 1'000'000);
+    };
+    QCOMPARE(failureOf("{\"k\": " + value + '}', read),
+             QStringLiteral("FILE: k: expected a number from 0.001 to 1000000, found the number %1")
+                 .arg(found));
 }
 
 void tst_JsonObject::wrongEntryOfAListIsNamed()

@@ -195,10 +195,12 @@ void tst_JsonReport::missingServerTellsWhy()
     ServerLink &link = m_fixture->workbench.link();
     Q_EMIT link.attemptFailed(QStringLiteral("no answer"), 1500);
     Q_EMIT link.refused(QStringLiteral("wrong token"));
+    m_report->writeConnectTimeout(2500);
     QCOMPARE(takeLines(),
              QStringList({QStringLiteral(
                               R"({"event":"attemptFailed","pauseMs":1500,"reason":"no answer"})"),
-                          QStringLiteral(R"({"event":"refused","reason":"wrong token"})")}));
+                          QStringLiteral(R"({"event":"refused","reason":"wrong token"})"),
+                          QStringLiteral(R"({"event":"connectTimeout","timeoutMs":2500})")}));
 }
 
 void tst_JsonReport::textIsEscaped()

@@ -1,6 +1,7 @@
 #include "MetricsServer.h"
 
 #include "HostFailure.h"
+#include "NoDescriptors.h"
 #include "ReadMetrics.h"
 #include "WorkbenchFixture.h"
 
@@ -35,6 +36,7 @@ private Q_SLOTS:
     void slowRequestsEnd();
     void connectionsBeyondTheLimitAreEnded();
     void placesOfEndedConnectionsAreFree();
+    void connectionThatCannotBeTakenIsTakenLater();
     void clientMayGoAtAnyTime_data();
     void clientMayGoAtAnyTime();
 
@@ -225,6 +227,22 @@ void tst_MetricsServer::placesOfEndedConnectionsAreFree()
     serve(limits);
     for (int i = 0; i < 5; ++i)
         QVERIFY(ask(Good).startsWith("HTTP/1.1 200 OK\r\n"));
+}
+
+// The client is connected as soon as the system has it, before the server takes the connection.
+void tst_MetricsServer::connectionThatCannotBeTakenIsTakenLater()
+{
+    MetricsLimits limits;
+    limits.acceptPauseMs = 0;
+    serve(limits);
+    const std::unique_ptr<QTcpSocket> socket = connected();
+    QVERIFY(socket->waitForConnected());
+    socket->write(Good);
+    {
+        const NoDescriptors full;
+        QCoreApplication::processEvents();
+    }
+    QVERIFY(QTest::qWaitFor([&] { return socket->readAll().contains("# EOF\n"); }));
 }
 
 void tst_MetricsServer::clientMayGoAtAnyTime_data()

@@ -44,6 +44,7 @@ void tst_Options::everythingHasADefault()
     QVERIFY(!options.screenshotAtMs);
     QVERIFY(!options.logFile);
     QVERIFY(!options.metricsPort);
+    QVERIFY(!options.connectTimeoutMs);
     QVERIFY(options.serverUrl.isEmpty());
     QCOMPARE(options.tokenFile, QString());
     QCOMPARE(options.storeFile, QString());
@@ -88,9 +89,10 @@ void tst_Options::readsTheServer()
 {
     const QStringList server{QStringLiteral("--server"), QStringLiteral("ws://[::1]:99")};
     const Options options =
-        parse(server + QStringList{QStringLiteral("--token-file"), QStringLiteral("t")});
+        parse(server + QStringLiteral("--token-file t --connect-timeout 2.5").split(u' '));
     QCOMPARE(options.serverUrl, QUrl(QStringLiteral("ws://[::1]:99")));
     QCOMPARE(options.tokenFile, QStringLiteral("t"));
+    QCOMPARE(options.connectTimeoutMs, std::optional(2500));
     QCOMPARE(options.scenarioFile, QStringLiteral(":/workbench/scenarios/watch.json"));
     const QStringList scenario{QStringLiteral("--scenario"), QStringLiteral("default")};
     QCOMPARE(parse(server + scenario).scenarioFile,
@@ -187,6 +189,12 @@ void tst_Options::wrongOptionsAreRefused_data()
     QTest::newRow("token for nobody")
         << QStringLiteral("--token-file t")
         << QStringLiteral("--token-file: expected --server URL as well.");
+    QTest::newRow("patience with nobody")
+        << QStringLiteral("--connect-timeout 5")
+        << QStringLiteral("--connect-timeout: expected --server URL as well.");
+    QTest::newRow("no patience") << QStringLiteral("--server ws://a --connect-timeout 0")
+                                 << QStringLiteral("--connect-timeout: expected a number greater "
+                                                   "than 0 and up to 86400, found \"0\".");
     QTest::newRow("store of another process")
         << QStringLiteral("--server ws://a --store k")
         << QStringLiteral("--store: expected without --server.");
@@ -211,12 +219,14 @@ void tst_Options::wrongOptionsAreRefused()
 void tst_Options::helpNamesEveryOption()
 {
     const QString help = optionsHelp();
-    for (const char *const option :
-         {"--headless", "--site",       "--scenario",      "--speed",         "--seed",
-          "--loop",     "--screenshot", "--screenshot-at", "--ignore-errors", "--format",
-          "--metrics",  "--language",   "--page",          "--log",           "--plugin",
-          "--server",   "--token-file", "--store",         "--record",        "--replay",
-          "--help",     "--version"})
+    for (const char *const option : {"--headless",   "--site",          "--scenario",
+                                     "--speed",      "--seed",          "--loop",
+                                     "--screenshot", "--screenshot-at", "--ignore-errors",
+                                     "--format",     "--metrics",       "--language",
+                                     "--page",       "--log",           "--plugin",
+                                     "--server",     "--token-file",    "--connect-timeout",
+                                     "--store",      "--record",        "--replay",
+                                     "--help",       "--version"})
         QVERIFY2(help.contains(QString::fromLatin1(option)), option);
     QVERIFY(help.contains(QStringLiteral("Exit codes")));
     QVERIFY(help.contains(QStringLiteral("Examples")));

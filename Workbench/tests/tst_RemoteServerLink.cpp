@@ -33,15 +33,21 @@ public:
     // Waits for a client and says something to it.
     bool say(const QString &text)
     {
-        if (!QTest::qWaitFor([this] { return m_listener.hasPendingConnections(); }))
-            return false;
-        m_client.reset(m_listener.nextPendingConnection());
-        m_client->sendTextMessage(text);
-        return true;
+        const bool isThere = accept();
+        if (isThere)
+            sayAgain(text);
+        return isThere;
+    }
+
+    // Waits for a client and for what it says first.
+    bool hears()
+    {
+        return accept() && QSignalSpy(m_client.get(), &QWebSocket::textMessageReceived).wait();
     }
 
     // Says something to the client of the last time.
-    void say(const ServerMessage::Event &event) { m_client->sendTextMessage(toText(event)); }
+    void sayAgain(const QString &text) { m_client->sendTextMessage(text); }
+    void sendBytes(const QByteArray &bytes) { m_client->sendBinaryMessage(bytes); }
 
     // Until this is done, each has read what the other had sent before.
     bool isReached()
@@ -58,6 +64,14 @@ public:
     void hangUp() { m_client.reset(); }
 
 private:
+    bool accept()
+    {
+        if (!QTest::qWaitFor([this] { return m_listener.hasPendingConnections(); }))
+            return false;
+        m_client.reset(m_listener.nextPendingConnection());
+        return true;
+    }
+
     QWebSocketServer m_listener;
     std::unique_ptr<QWebSocket> m_client;
 };
@@ -73,6 +87,7 @@ private Q_SLOTS:
     void cleanup();
 
     void opensWithTheSiteOfTheServer();
+    void comparesTheClocks();
     void followsTheSite();
     void passesEventsOn();
     void knowsTheSnoozes();
@@ -89,6 +104,8 @@ private Q_SLOTS:
     void answeringServerIsKept();
     void serverThatIsNotUnderstoodIsLeft_data();
     void serverThatIsNotUnderstoodIsLeft();
+    void serverThatWelcomesTwiceIsLeft();
+    void serverThatSendsBytesIsLeft();
 
     void refusalIsFinal();
     void linkThatIsSentAwayTriesAgain();
@@ -175,6 +192,20 @@ void tst_RemoteServerLink::opensWithTheSiteOfTheServer()
     QCOMPARE(m_log.take(), QStringList{QStringLiteral("opened")});
     QCOMPARE(m_link->site().name, QStringLiteral("Test site"));
     QCOMPARE(m_link->site().cameraCount(), testSite().cameraCount());
+}
+
+// The welcome arrives a second after the hello, so it was written half a second ago.
+void tst_RemoteServerLink::comparesTheClocks()
+{
+    FakeServer server;
+    linkTo(server.url());
+    m_link->open();
+    QVERIFY(server.hears());
+    m_clock->leap(1000);
+    server.sayAgain(
+        toText(ServerMessage::Welcome{testSite(), {}, VirtualClock::StartMs + 3'600'500}));
+    QVERIFY(waitForLog(QStringLiteral("opened")));
+    QCOMPARE(m_link->clockAheadMs(), 3'600'000);
 }
 
 void tst_RemoteServerLink::followsTheSite()
@@ -347,7 +378,7 @@ void tst_RemoteServerLink::pausesGrowUntilAConnectionHolds()
         m_log.take();
         for (qint64 ms = 0; ms < RemoteServerLink::ProvenMs; ms += 500) {
             m_clock->advance(500);
-            server.say(ServerMessage::Event{QStringLiteral("E"), 1, {}});
+            server.sayAgain(toText(ServerMessage::Event{QStringLiteral("E"), 1, {}}));
             QVERIFY2(waitForLog(QStringLiteral("E 1LL from ''")),
                      qPrintable(m_log.lines().join(u'|')));
             m_log.take();
@@ -422,6 +453,32 @@ void tst_RemoteServerLink::serverThatIsNotUnderstoodIsLeft()
     QVERIFY(server.say(text));
     QVERIFY(QTest::qWaitFor([this] { return !m_log.lines().isEmpty(); }));
     QCOMPARE(m_log.take(), QStringList{QStringLiteral("failed: %1, 250").arg(reason)});
+}
+
+// It would be another site, of which nobody is told.
+void tst_RemoteServerLink::serverThatWelcomesTwiceIsLeft()
+{
+    FakeServer server;
+    linkTo(server.url());
+    m_link->open();
+    const QString welcome = toText(ServerMessage::Welcome{testSite(), {}});
+    QVERIFY(server.say(welcome));
+    QVERIFY(waitForLog(QStringLiteral("opened")));
+    server.sayAgain(welcome);
+    QVERIFY(
+        waitForLog(QStringLiteral("failed: message: expected one welcome, found another, 250")));
+    QVERIFY(!m_link->isOpen());
+}
+
+void tst_RemoteServerLink::serverThatSendsBytesIsLeft()
+{
+    FakeServer server;
+    linkTo(server.url());
+    m_link->open();
+    QVERIFY(server.say(toText(ServerMessage::Welcome{testSite(), {}})));
+    QVERIFY(waitForLog(QStringLiteral("opened")));
+    server.sendBytes("\1\2");
+    QVERIFY(waitForLog(QStringLiteral("failed: message: expected text, found binary data, 250")));
 }
 
 void tst_RemoteServerLink::refusalIsFinal()

@@ -1,5 +1,7 @@
 #include "RunProgress.h"
 
+#include "FakeMonitor.h"
+#include "JournalPlayer.h"
 #include "ScenarioDriver.h"
 #include "VirtualClock.h"
 
@@ -23,6 +25,7 @@ private Q_SLOTS:
     void tellsHowFarTheScenarioIs();
     void heldScenarioStandsStill();
     void tellsWhatIsWaitedForAfterTheEnd();
+    void tellsHowFarTheJournalIs();
     void lineIsTakenAwayInTheEnd();
     void nothingIsShownWithoutATerminal();
 
@@ -80,6 +83,21 @@ void tst_RunProgress::tellsWhatIsWaitedForAfterTheEnd()
     m_clock.leap(52'000);
     progress.show();
     QCOMPARE(m_written, StartAnew + "waiting for the error list to come to rest");
+}
+
+void tst_RunProgress::tellsHowFarTheJournalIs()
+{
+    Journal journal;
+    journal.entries = {{0, {{QStringLiteral("server"), true}}, 2},
+                       {500, {{QStringLiteral("server"), false}}, 3}};
+    CallLog log;
+    FakeMonitor monitor(log);
+    JournalPlayer player(monitor, nullptr, journal, &m_clock);
+    const RunProgress progress(line(), player);
+    player.start();
+    m_clock.advance(499);
+    progress.show();
+    QCOMPARE(m_written, StartAnew + "1 of 2 entries of the journal");
 }
 
 void tst_RunProgress::lineIsTakenAwayInTheEnd()

@@ -1,7 +1,7 @@
 #include "ScenarioActor.h"
 
+#include "AheadLink.h"
 #include "FakeMonitor.h"
-#include "LocalServerLink.h"
 #include "PluginSurface.h"
 #include "SignalLog.h"
 #include "SiteActor.h"
@@ -29,6 +29,7 @@ private Q_SLOTS:
     void announcesRetrievedStates();
     void doesWhatTheUserDoes();
     void snoozeIsRoundedUpToWholeSeconds();
+    void snoozeEndsByTheClockOfTheServer();
 
 private:
     void perform(const AnyScenarioAction &action) { m_actor->perform(action); }
@@ -116,6 +117,15 @@ void tst_ScenarioActor::snoozeIsRoundedUpToWholeSeconds()
     perform(ScenarioAction::Snooze{QStringLiteral("south"), 4, 30'001});
     QCOMPARE(m_log.take(), QStringList({QStringLiteral("setSnooze north/c1 %1 3").arg(start + 30),
                                         QStringLiteral("setSnooze south %1 4").arg(start + 31)}));
+}
+
+void tst_ScenarioActor::snoozeEndsByTheClockOfTheServer()
+{
+    AheadLink link(*m_server);
+    ScenarioActor actor({nullptr, link, *m_topology, *m_surface, *m_clock});
+    actor.perform(ScenarioAction::Snooze{QStringLiteral("south"), 4, 30'000});
+    const qint64 end = (VirtualClock::StartMs + AheadLink::AheadMs) / 1000 + 30;
+    QCOMPARE(m_log.take(), QStringList{QStringLiteral("setSnooze south %1 4").arg(end)});
 }
 
 QTEST_GUILESS_MAIN(tst_ScenarioActor)

@@ -1,5 +1,6 @@
 #include "ServerGate.h"
 
+#include "NoDescriptors.h"
 #include "RawClient.h"
 #include "ServedSite.h"
 #include "ServerNames.h"
@@ -11,7 +12,7 @@
 
 namespace {
 
-const QByteArray Hello = QByteArrayLiteral(R"({"type":"hello","protocol":2})");
+const QByteArray Hello = QByteArrayLiteral(R"({"type":"hello","protocol":3})");
 
 QVariantMap snoozeRequest(const QString &cameraId, qint64 endSeconds)
 {
@@ -40,6 +41,7 @@ private Q_SLOTS:
     void requestsThatAreNoneAreTurnedAway();
     void clientsBeyondTheLimitAreSentAway();
     void connectionsWithoutAHelloKeepNobodyOut();
+    void connectionThatCannotBeTakenIsTakenLater();
     void changedSnoozesAreToldOneByOne();
     void snoozesAtATimeDoNotEndTheConnection();
     void gateMayGoWithItsClients();
@@ -184,6 +186,22 @@ void tst_ServerGate::connectionsWithoutAHelloKeepNobodyOut()
                  QList<QByteArray>{R"({"final":false,"reason":"too many connections wait for a )"
                                    R"(hello","type":"refused"})"});
     QVERIFY(strangers.back()->isConnected());
+}
+
+// The client is connected as soon as the system has it, before the server takes the connection.
+void tst_ServerGate::connectionThatCannotBeTakenIsTakenLater()
+{
+    RawClient client(m_site->gate.url());
+    {
+        const NoDescriptors full;
+        QCoreApplication::processEvents();
+    }
+    QCoreApplication::processEvents();
+    QCOMPARE(client.status(), QByteArray());
+    m_site->clock.advance(1000);
+    client.sendText(Hello);
+    QTRY_COMPARE(client.texts().size(), 1);
+    QVERIFY(client.texts().constFirst().contains("welcome"));
 }
 
 void tst_ServerGate::changedSnoozesAreToldOneByOne()

@@ -32,8 +32,9 @@ void tst_ServerMessages::messagesComeThroughUnchanged_data()
 {
     QTest::addColumn<QString>("text");
     const auto row = [](const char *name, const QString &text) { QTest::newRow(name) << text; };
-    row("welcome", toText(ServerMessage::Welcome{testSite(),
-                                                 {{QStringLiteral("south"), 4, 253'402'300'799}}}));
+    row("welcome",
+        toText(ServerMessage::Welcome{
+            testSite(), {{QStringLiteral("south"), 4, 253'402'300'799}}, 253'402'300'799'000}));
     row("refused", toText(ServerMessage::Refused{QStringLiteral("wrong"), true}));
     row("sent away", toText(ServerMessage::Refused{QStringLiteral("full"), false}));
     row("result", toText(ServerMessage::Result{3, QStringLiteral("0"), QVariant(7)}));
@@ -101,6 +102,9 @@ void tst_ServerMessages::malformedMessagesAreRefused_data()
         "stationRemoved, storageChanged, welcome, found \"hello\"");
     row("site without stations", R"({"type":"welcome","site":{"name":"S"}})",
         "message: site.stations: expected a list of objects, found nothing");
+    row("welcome without the time",
+        R"({"type":"welcome","site":{"name":"S","stations":[]},"snoozes":[]})",
+        "message: time: expected a number from 0 to 253402300799000, found nothing");
     row("camera with a whole id",
         R"({"type":"welcome","site":{"name":"S","stations":[{"id":"a","name":"A",)"
         R"("cameras":[{"id":"a/b","name":"B"}]}]}})",

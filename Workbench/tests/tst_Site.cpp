@@ -13,6 +13,7 @@ private Q_SLOTS:
     void findsNothingUnderUnknownIds_data();
     void findsNothingUnderUnknownIds();
     void visitsAStationBeforeThoseBelowIt();
+    void visitsAStationWithThoseBelowIt();
     void countsStationsAndCameras();
     void removesACameraOnce();
     void removesAStationWithAllBelowIt();
@@ -64,6 +65,14 @@ void tst_Site::visitsAStationBeforeThoseBelowIt()
     testSite().forEachStation([&visited](const Station &station) { visited.append(station.id); });
     QCOMPARE(visited, QStringList({QStringLiteral("north"), QStringLiteral("north/annex"),
                                    QStringLiteral("south")}));
+}
+
+void tst_Site::visitsAStationWithThoseBelowIt()
+{
+    QStringList visited;
+    testSite().stations.front().forEachStation(
+        [&visited](const Station &station) { visited.append(station.id); });
+    QCOMPARE(visited, QStringList({QStringLiteral("north"), QStringLiteral("north/annex")}));
 }
 
 void tst_Site::countsStationsAndCameras()

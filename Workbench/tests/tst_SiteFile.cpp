@@ -231,7 +231,7 @@ void tst_SiteFile::wrongFilesAreRefused_data()
                      .constData());
     exporter("bandwidth of nothing",
              R"({"url": "http://b", "networks": [{"interface": "e", "bandwidth": 0}]})",
-             "stations[0].exporter.networks[0].bandwidth: expected a number from 0.001 to 1e+06, "
+             "stations[0].exporter.networks[0].bandwidth: expected a number from 0.001 to 1000000, "
              "found the number 0");
     exporter("network without a name", R"({"url": "http://b", "networks": [{"bandwidth": 1}]})",
              "stations[0].exporter.networks[0].interface: expected a text, found nothing");

@@ -83,6 +83,7 @@ private Q_SLOTS:
 
     void snoozeOfOneIsSeenByTheOtherAndHoldsAfterAKill();
     void stoppedServerIsNoticed();
+    void missingServerIsWaitedForAsLongAsAskedFor();
     void clientWithoutTheTokenIsToldSo();
     void workbenchKeepsItsOwnSnoozes();
 
@@ -254,6 +255,19 @@ void tst_SiteServerProgram::stoppedServerIsNoticed()
     server->signal(SIGCONT);
     QVERIFY2(workbench->waitFor(QStringLiteral("server    connected")),
              qPrintable(workbench->output()));
+}
+
+void tst_SiteServerProgram::missingServerIsWaitedForAsLongAsAskedFor()
+{
+    QTcpServer free;
+    QVERIFY(free.listen(QHostAddress::LocalHost));
+    m_url = QStringLiteral("ws://127.0.0.1:%1").arg(free.serverPort());
+    free.close();
+    const ProgramPtr workbench =
+        startWorkbench(R"({"events": []})", words("--connect-timeout 0.4"));
+    QCOMPARE(workbench->waitForEnd(), 3);
+    QVERIFY(workbench->waitFor(QStringLiteral("Connection refused; next try in")));
+    QVERIFY(workbench->waitFor(QStringLiteral("no connection within 0.4 s; the run ends\n")));
 }
 
 void tst_SiteServerProgram::clientWithoutTheTokenIsToldSo()

@@ -22,7 +22,9 @@ QStringList cameras(int count)
 std::vector<ScenarioEvent> eventsOf(const Storm &storm, quint32 seed = 1)
 {
     QRandomGenerator chance(seed);
-    return stormEvents(storm, StartMs, chance);
+    std::vector<ScenarioEvent> events;
+    appendStorm(storm, StartMs, chance, events);
+    return events;
 }
 
 QStringList asText(const std::vector<ScenarioEvent> &events)

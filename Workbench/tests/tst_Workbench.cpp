@@ -249,6 +249,11 @@ void tst_Workbench::siteOfAnotherProcessIsLearntWhenItIsConnected()
     clock.advance(0);
     QCOMPARE(retrieved.size(), 2);
     QCOMPARE(due.size(), 2);
+    link.close();
+    link.come();
+    link.close();
+    clock.advance(0);
+    QCOMPARE(retrieved.size(), 2);
 }
 
 void tst_Workbench::destroysThePluginFirst()

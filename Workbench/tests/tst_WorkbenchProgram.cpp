@@ -83,6 +83,7 @@ private Q_SLOTS:
     void walkAfterTheEndIsWaitedFor();
     void speaksGerman();
     void jsonIsAllThatIsPrinted();
+    void outputThatCannotBeWrittenIsAFailure();
     void metricsAreServedWhileItRuns();
     void portInUseIsRefused();
     void helpAndVersionNeedNothing();
@@ -278,6 +279,19 @@ void tst_WorkbenchProgram::jsonIsAllThatIsPrinted()
     QCOMPARE(events.constLast(), QStringLiteral("summary"));
     QVERIFY(!last.value(QStringLiteral("errors")).toArray().isEmpty());
     QCOMPARE(outcome.lines.constLast(), QString());
+}
+
+void tst_WorkbenchProgram::outputThatCannotBeWrittenIsAFailure()
+{
+    const TextFile scenario(R"({"events": []})");
+    QProcess program;
+    program.setStandardOutputFile(QStringLiteral("/dev/full"));
+    program.start(QStringLiteral(WORKBENCH_PROGRAM), options("--headless --scenario")
+                                                         << scenario.path());
+    QVERIFY(program.waitForFinished(60'000));
+    QCOMPARE(program.exitCode(), 3);
+    QCOMPARE(program.readAllStandardError(),
+             QByteArray("workbench: The output cannot be written.\n"));
 }
 
 void tst_WorkbenchProgram::metricsAreServedWhileItRuns()

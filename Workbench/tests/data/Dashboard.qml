@@ -7,6 +7,8 @@ Item {
     property string siteName
     property bool serverConnected: false
     property var connectionSince
+    property string connectionFailure
+    property var nextAttempt
     property var statesSince
     property real serverRate: 1
     property real serverOffset: 0
