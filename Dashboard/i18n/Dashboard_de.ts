@@ -346,7 +346,7 @@
     </message>
     <message>
         <source>Trying to connect</source>
-        <translation>Die Verbindung wird versucht</translation>
+        <translation>Verbindungsversuch läuft</translation>
     </message>
 </context>
 <context>
