@@ -135,12 +135,18 @@ FocusScope {
         onActivated: strip.step(-1)
     }
 
+    StationErrorCounts {
+        id: errorCounts
+
+        model: root.surface ? root.surface.getSystemErrorModel() : null
+    }
+
     StationDirectory {
         id: directory
 
         stations: root.stations
         statesKnown: root.knownStatesSince !== undefined
-        errorCounts: root.surface?.stationErrorList ?? []
+        errorCounts: errorCounts.counts
     }
 
     SnoozeBook {

@@ -42,7 +42,6 @@ Item {
             plugin = makePlugin();
             plugin.addError(3, "b", "b/1", ["Quay", "Gate"], now - minute);
             plugin.addError(4, "a", "", ["Lobby"], now - hour);
-            plugin.countErrors();
             view = make(viewComponent, Object.assign({ "plugin": plugin }, properties ?? {}));
             view.forceActiveFocus();
             waitForRendering(view);
@@ -82,12 +81,11 @@ Item {
             verify(hasText(view, "2 · 1 selected"));
         }
 
-        function test_showsTheCountsOfThePlugin() {
+        function test_stationsShowTheNumbersOfTheirErrors() {
             prepare();
             verify(inWindow("Quay, Connected, 1 error(s)"));
             plugin.addError(3, "b", "b/2", ["Quay", "Pier"], now);
-            plugin.countErrors();
-            verify(inWindow("Quay, Connected, 2 error(s)"));
+            tryVerify(() => inWindow("Quay, Connected, 2 error(s)") !== null);
         }
 
         function test_tabReachesEveryControlBothWays() {
@@ -128,7 +126,6 @@ Item {
         function test_focusIsSeenOnEmptyLists() {
             prepare({ "stations": [] });
             plugin.clearErrors();
-            plugin.countErrors();
             tryCompare(pane(ErrorTable), "count", 0);
             for (const type of [ErrorTable, ThemedList]) {
                 pane(type).forceActiveFocus(Qt.TabFocusReason);
@@ -304,7 +301,6 @@ Item {
         function test_lostServerShowsNothingGreen() {
             prepare({ "serverConnected": false });
             plugin.clearErrors();
-            plugin.countErrors();
             waitForRendering(view);
             const marks = itemsWhere(view, item => item instanceof StateMark && item.visible);
             verify(marks.length >= 4);
@@ -315,8 +311,7 @@ Item {
         function test_nothingAtTheSiteIsGreenBeforeTheStatesAreKnown() {
             prepare({ "statesSince": undefined, "connectionSince": new Date(now - hour) });
             plugin.clearErrors();
-            plugin.countErrors();
-            verify(inWindow("Quay, State unknown, 0 error(s)"));
+            tryVerify(() => inWindow("Quay, State unknown, 0 error(s)") !== null);
             tryVerify(() => inWindow("Checking the site") !== null);
             const good = () => itemsWhere(view, item => item instanceof StateMark && item.visible
                                                         && item.status === "good").length;
