@@ -234,6 +234,6 @@ Panel {
     }
 
     FocusRing {
-        visible: table.activeFocus && table.count === 0
+        visible: table.activeFocus && table.currentIndex < 0
     }
 }

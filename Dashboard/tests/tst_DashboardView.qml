@@ -134,6 +134,19 @@ Item {
             }
         }
 
+        function test_focusIsSeenWhenErrorsComeToAnEmptyList() {
+            prepare();
+            const rings = () => itemsWhere(pane(ErrorsPane), item => item instanceof FocusRing
+                                                                     && item.visible).length;
+            plugin.clearErrors();
+            tryCompare(pane(ErrorTable), "count", 0);
+            plugin.addError(4, "a", "", ["Lobby"], now);
+            tryCompare(pane(ErrorTable), "count", 1);
+            compare(rings(), 1);
+            keyClick(Qt.Key_Down);
+            compare([rings(), pane(ErrorTable).currentIndex], [0, 0]);
+        }
+
         function test_findKeyGoesToTheTextFilter() {
             prepare();
             keyClick(Qt.Key_F, Qt.ControlModifier);
