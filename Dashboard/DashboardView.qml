@@ -212,6 +212,7 @@ FocusScope {
             connectionFailure: root.connectionFailure
             nextAttempt: root.validDate(root.nextAttempt)
             statesSince: root.knownStatesSince
+            snoozed: book.snoozedCount
             files: root.files
             clipboard: root.clipboard
             onNoticed: (status, text) => notice.show(status, text)

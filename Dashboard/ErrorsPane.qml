@@ -13,6 +13,8 @@ Panel {
     property var nextAttempt
     /// See DashboardView.statesSince.
     property var statesSince
+    /// How many errors are snoozed.
+    property int snoozed: 0
     /// What writes files for the dashboard, or null; see DashboardView.files.
     property var files: null
     /// What takes texts into the clipboard, or null; see DashboardView.clipboard.
@@ -229,6 +231,7 @@ Panel {
                 nextAttempt: pane.nextAttempt
                 statesSince: pane.statesSince
                 hidden: pane.total.count - pane.shown.count
+                snoozed: pane.snoozed
             }
         }
     }

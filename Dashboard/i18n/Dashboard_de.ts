@@ -348,6 +348,17 @@
         <source>Trying to connect</source>
         <translation>Verbindungsversuch läuft</translation>
     </message>
+    <message numerus="yes">
+        <source>%n error(s) snoozed, no others</source>
+        <translation>
+            <numerusform>%n Fehler zurückgestellt, sonst keine</numerusform>
+            <numerusform>%n Fehler zurückgestellt, sonst keine</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>What is snoozed may fail still; the page of the snoozes lists it.</source>
+        <translation>Zurückgestelltes kann weiter gestört sein; die Seite der Zurückstellungen führt es auf.</translation>
+    </message>
 </context>
 <context>
     <name>ErrorsPane</name>

@@ -41,6 +41,13 @@
             <numerusform>A filter hides %n errors</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n error(s) snoozed, no others</source>
+        <translation>
+            <numerusform>%n error snoozed, no others</numerusform>
+            <numerusform>%n errors snoozed, no others</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ErrorsPane</name>

@@ -239,6 +239,14 @@ Item {
             tryVerify(() => inWindow("Snoozed 1") !== null);
         }
 
+        function test_aListThatSnoozesHaveEmptiedIsNotCalledWell() {
+            prepare({ "snoozes": [{ "nodeID": "b/1", "type": 3, "until": now + hour, "name": "" }] });
+            plugin.clearErrors();
+            tryVerify(() => inWindow("1 error(s) snoozed, no others") !== null);
+            view.snoozes = [];
+            tryVerify(() => inWindow("No errors") !== null);
+        }
+
         function test_snoozesMadeHereAreListed() {
             prepare();
             keyClick(Qt.Key_Home);

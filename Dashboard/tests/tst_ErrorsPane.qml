@@ -188,6 +188,18 @@ Item {
             compare(inWindow("No errors").status, "good");
         }
 
+        function test_whatIsSnoozedIsNotCalledWell() {
+            prepare({ "snoozed": 2 });
+            plugin.clearErrors();
+            tryVerify(() => inWindow("2 error(s) snoozed, no others") !== null);
+            compare(inWindow("2 error(s) snoozed, no others").status, "unknown");
+            pane.snoozed = 0;
+            compare(inWindow("No errors").status, "good");
+            pane.snoozed = 1;
+            pane.serverConnected = false;
+            verify(inWindow("Server connection lost"));
+        }
+
         function test_freshConnectionIsNotCalledWell() {
             prepare({ "connectionSince": new Date(now - 3 * second) });
             plugin.clearErrors();
