@@ -187,7 +187,7 @@ FocusScope {
         bare: root.width < Theme.em(46)
         tabs: root.tabs
         current: root.page === "overview" && root.isSplit ? overview.pane : root.page
-        numbers: ({ "snoozed": book.snoozedCount + book.failingCount })
+        numbers: ({ "snoozed": book.rows.length })
         onChosen: key => root.show(key)
     }
 

@@ -32,10 +32,14 @@ Panel {
             Layout.margins: Theme.pad
             Layout.preferredHeight: Theme.controlHeight
             text: qsTr("Snoozed")
-            remark: page.book.failingCount > 0
-                    ? page.book.snoozedCount + " · "
-                      + qsTr("%n still failing", "", page.book.failingCount)
-                    : page.book.snoozedCount
+            remark: {
+                const parts = [String(page.book.rows.length)];
+                if (page.book.failingCount > 0)
+                    parts.push(qsTr("%n still failing", "", page.book.failingCount));
+                if (page.book.askedCount > 0)
+                    parts.push(qsTr("%n not confirmed", "", page.book.askedCount));
+                return parts.join(" · ");
+            }
         }
 
         RowLayout {

@@ -798,6 +798,13 @@
         <source>Errors that are snoozed stand here until they come back.</source>
         <translation>Zurückgestellte Fehler stehen hier, bis sie wiederkommen.</translation>
     </message>
+    <message numerus="yes">
+        <source>%n not confirmed</source>
+        <translation>
+            <numerusform>%n nicht bestätigt</numerusform>
+            <numerusform>%n nicht bestätigt</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>SnoozedRow</name>

@@ -141,6 +141,13 @@
             <numerusform>%n still failing</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n not confirmed</source>
+        <translation>
+            <numerusform>%n not confirmed</numerusform>
+            <numerusform>%n not confirmed</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>StationRow</name>

@@ -251,9 +251,10 @@ Item {
             prepare();
             keyClick(Qt.Key_Home);
             pane(ErrorsPane).snoozeFor(3600);
-            plugin.removeError("3_b/1");
             tryVerify(() => inWindow("Snoozed 1") !== null);
+            plugin.removeError("3_b/1");
             click("Snoozed 1");
+            tryVerify(() => hasText(pane(SnoozedPage), "1"));
             verify(hasText(view, "asked here 14:07:33 CEST"));
         }
 

@@ -89,6 +89,7 @@ Item {
                       (now + hour) / 1000);
             tryVerify(() => inWindow("Not confirmed: Door 1, Camera disconnected, Lobby, waiting,"
                                      + " until 15:07:33 CEST, asked here 14:07:33 CEST"));
+            verify(hasText(page, "1 · 1 not confirmed"));
         }
 
         function test_whatStillFailsIsMarked() {
@@ -99,7 +100,7 @@ Item {
             Clock.now = now + 3 * minute;
             tryVerify(() => hasText(page, "over for 3 min"));
             verify(hasText(page, "Still failing"));
-            verify(hasText(page, "0 · 1 still failing"));
+            verify(hasText(page, "1 · 1 still failing"));
             const marks = itemsWhere(page, item => item instanceof StateMark && item.visible);
             compare(marks.map(mark => mark.status), ["critical"]);
         }
