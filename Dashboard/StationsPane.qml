@@ -39,7 +39,7 @@ Panel {
             Layout.fillWidth: true
             Layout.fillHeight: true
             rows: pane.directory.rows
-            rowHeight: Theme.em(3.5)
+            rowHeight: Theme.em(3.8)
             firstRow: rows.findIndex(row => row.stationID === pane.focusedStation)
             Accessible.name: qsTr("Stations")
 
