@@ -64,6 +64,7 @@ Panel {
     onVisibleChanged: read()
     onLogChanged: refresh()
     onTextChanged: {
+        list.contentY = 0;
         limit = portion;
         refresh();
     }
@@ -150,6 +151,7 @@ Panel {
             Layout.fillWidth: true
             Layout.fillHeight: true
             rows: page.sheet.entries
+            keyOf: entry => entry.time + entry.name + page.sheet.details(entry)
             rowHeight: narrow ? Theme.em(3.4) : Theme.rowHeight
             Accessible.name: qsTr("Operational log")
 

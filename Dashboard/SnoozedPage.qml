@@ -88,6 +88,7 @@ Panel {
             Layout.fillWidth: true
             Layout.fillHeight: true
             rows: page.book.rows
+            keyOf: row => row.type + "_" + row.nodeID
             rowHeight: Theme.em(3.6)
             Accessible.name: qsTr("Snoozed")
             Keys.onReturnPressed: page.requestStation(currentIndex)

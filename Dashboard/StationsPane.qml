@@ -39,6 +39,7 @@ Panel {
             Layout.fillWidth: true
             Layout.fillHeight: true
             rows: pane.directory.rows
+            keyOf: row => row.stationID
             rowHeight: Theme.em(3.8)
             firstRow: rows.findIndex(row => row.stationID === pane.focusedStation)
             Accessible.name: qsTr("Stations")

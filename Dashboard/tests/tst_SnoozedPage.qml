@@ -166,6 +166,19 @@ Item {
             verify(list.contentItem.children.length < 50);
         }
 
+        function test_theKeyboardStaysOnItsSnooze() {
+            prepare([snooze("st1/c1", 3, now + hour), snooze("st1/c2", 3, now + 3 * hour)]);
+            const list = itemsWhere(page, item => item instanceof ThemedList)[0];
+            list.forceActiveFocus();
+            keyClick(Qt.Key_End);
+            book.serverList = book.serverList.concat([snooze("st1/c3", 3, now + 2 * hour)]);
+            tryCompare(list, "count", 3);
+            compare(list.rows[list.currentIndex].nodeID, "st1/c2");
+            book.serverList = [snooze("st1/c2", 3, now + minute), snooze("st1/c3", 3, now + hour)];
+            tryVerify(() => list.rows[0].nodeID === "st1/c2");
+            compare(list.currentIndex, 0);
+        }
+
         function test_theListStaysWhereItIsWhenASnoozeComes() {
             const many = [];
             for (let i = 0; i < 100; ++i)
