@@ -10,7 +10,7 @@ Rectangle {
     property var connectionSince
 
     implicitHeight: Theme.em(3.2)
-    color: serverConnected ? Theme.surface : Theme.dark ? "#3a1c1b" : "#fbe4e2"
+    color: serverConnected ? Theme.surface : Theme.criticalGround
 
     RowLayout {
         anchors.fill: parent
