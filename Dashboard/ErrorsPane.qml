@@ -110,7 +110,7 @@ Panel {
         if (rows.length === 0)
             return;
         pasteboard.put(rows.map(row => lineOf(row)).join("\n"));
-        noticed("good", qsTr("%n error(s) copied", "", rows.length));
+        noticed("done", qsTr("%n error(s) copied", "", rows.length));
     }
 
     /// Asks where to save what the list shows; does nothing when that cannot be done.
@@ -122,12 +122,12 @@ Panel {
 
     function reconnectCameras() {
         surface.reconnectDisconnectCameras();
-        noticed("good", qsTr("Asked to reconnect all disconnected cameras"));
+        noticed("done", qsTr("Asked to reconnect all disconnected cameras"));
     }
 
     function reconnectSubstations() {
         surface.reconnectDisconnectSubstations();
-        noticed("good", qsTr("Asked to reconnect all disconnected sub-stations"));
+        noticed("done", qsTr("Asked to reconnect all disconnected sub-stations"));
     }
 
     Clipboard {
@@ -146,7 +146,7 @@ Panel {
         id: exportDialog
 
         files: pane.files
-        onSaved: (path, count) => pane.noticed("good", Format.fill(
+        onSaved: (path, count) => pane.noticed("done", Format.fill(
                                                    qsTr("%n error(s) saved as %1", "", count), path))
     }
 

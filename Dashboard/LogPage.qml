@@ -91,7 +91,7 @@ Panel {
         id: dialog
 
         files: page.files
-        onSaved: (path, count) => page.noticed("good", Format.fill(
+        onSaved: (path, count) => page.noticed("done", Format.fill(
                                                    qsTr("%n entries saved as %1", "", count), path))
     }
 

@@ -53,7 +53,7 @@ QtObject {
         return Math.round(base * count);
     }
 
-    /// The colour of a state: "critical", "warning", "good" or "unknown".
+    /// The colour of a state: "critical", "warning", "good", "unknown" or "done".
     function stateColor(state: string): color {
         switch (state) {
         case "critical":
@@ -62,6 +62,8 @@ QtObject {
             return warning;
         case "good":
             return good;
+        case "done":
+            return accent;
         default:
             return unknown;
         }

@@ -330,6 +330,18 @@ Item {
             verify(!hasText(view, "Connected"));
         }
 
+        function test_whatIsDoneHereIsNotGreenEither() {
+            prepare({ "serverConnected": false, "files": host, "operationalLog": journal,
+                      "page": "log" });
+            journal.add(now, "Entry", []);
+            keyClick(Qt.Key_E, Qt.ControlModifier);
+            tryVerify(() => inWindow("File")?.activeFocus ?? false);
+            keyClick(Qt.Key_Return);
+            tryVerify(() => pane(NoticeBar).visible);
+            compare(itemsWhere(view, item => item instanceof StateMark && item.visible
+                                             && item.status === "good").length, 0);
+        }
+
         function test_nothingAtTheSiteIsGreenBeforeTheStatesAreKnown() {
             prepare({ "statesSince": undefined, "connectionSince": new Date(now - hour) });
             plugin.clearErrors();

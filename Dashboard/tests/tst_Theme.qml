@@ -44,9 +44,9 @@ Item {
         }
 
         function test_stateColoursDiffer() {
-            const colours = ["critical", "warning", "good", "unknown"].map(
+            const colours = ["critical", "warning", "good", "unknown", "done"].map(
                 state => String(Theme.stateColor(state)));
-            compare(new Set(colours).size, 4);
+            compare(new Set(colours).size, 5);
         }
     }
 }
