@@ -146,6 +146,7 @@ Panel {
         id: exportDialog
 
         files: pane.files
+        rowCount: pane.shown.count
         onSaved: (path, count) => pane.noticed("done", Format.fill(
                                                    qsTr("%n error(s) saved as %1", "", count), path))
     }

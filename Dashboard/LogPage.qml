@@ -91,6 +91,7 @@ Panel {
         id: dialog
 
         files: page.files
+        rowCount: page.sheet.entries.length
         onSaved: (path, count) => page.noticed("done", Format.fill(
                                                    qsTr("%n entries saved as %1", "", count), path))
     }

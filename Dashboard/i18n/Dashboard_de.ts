@@ -421,6 +421,13 @@
         <source>Export</source>
         <translation>Exportieren</translation>
     </message>
+    <message numerus="yes">
+        <source>%n row(s)</source>
+        <translation>
+            <numerusform>%n Zeile</numerusform>
+            <numerusform>%n Zeilen</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>FilterBar</name>

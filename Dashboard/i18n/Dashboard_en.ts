@@ -160,4 +160,14 @@
         </translation>
     </message>
 </context>
+<context>
+    <name>ExportDialog</name>
+    <message numerus="yes">
+        <source>%n row(s)</source>
+        <translation>
+            <numerusform>%n row</numerusform>
+            <numerusform>%n rows</numerusform>
+        </translation>
+    </message>
+</context>
 </TS>
