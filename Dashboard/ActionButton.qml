@@ -50,6 +50,8 @@ Button {
     }
 
     FocusRing {
+        // Around a filled button it would not be seen.
+        anchors.margins: button.filled ? -3 * Theme.line : -Theme.line
         visible: button.visualFocus
     }
 

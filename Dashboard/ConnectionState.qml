@@ -36,7 +36,7 @@ RowLayout {
         font.weight: Font.DemiBold
     }
 
-    PlainLabel {
+    ToldLabel {
         Layout.fillWidth: true
         text: state.detail
         color: state.connected ? Theme.mutedText : Theme.text

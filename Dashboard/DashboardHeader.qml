@@ -18,7 +18,7 @@ Rectangle {
         anchors.rightMargin: Theme.pad
         spacing: Theme.em(1.5)
 
-        PlainLabel {
+        ToldLabel {
             Layout.maximumWidth: header.width * 0.35
             text: header.siteName
             font.pixelSize: Theme.largeFont

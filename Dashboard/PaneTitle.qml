@@ -18,7 +18,7 @@ RowLayout {
         Accessible.name: text
     }
 
-    PlainLabel {
+    ToldLabel {
         Layout.fillWidth: true
         text: title.remark
         font.pixelSize: Theme.largeFont
