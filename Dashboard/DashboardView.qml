@@ -99,7 +99,7 @@ FocusScope {
     Keys.onEscapePressed: {
         if (page === "log")
             log.clearFilters();
-        else
+        else if (page === "overview")
             overview.clearFilters();
     }
 

@@ -320,6 +320,15 @@ Item {
             compare(filters.active, false);
         }
 
+        function test_escapeLeavesFiltersThatAreOutOfSight() {
+            prepare();
+            const filters = pane(ErrorsPane).filters;
+            filters.categories = ErrorKinds.cameraCategory;
+            view.page = "snoozed";
+            keyClick(Qt.Key_Escape);
+            compare(filters.active, true);
+        }
+
         function test_lostServerShowsNothingGreen() {
             prepare({ "serverConnected": false });
             plugin.clearErrors();
