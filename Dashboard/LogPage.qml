@@ -153,7 +153,7 @@ Panel {
             Layout.fillHeight: true
             rows: page.sheet.entries
             keyOf: entry => entry.time + entry.name + page.sheet.details(entry)
-            rowHeight: narrow ? Theme.em(3.4) : Theme.rowHeight
+            rowHeight: narrow ? Theme.em(4.6) : Theme.rowHeight
             Accessible.name: qsTr("Operational log")
 
             delegate: LogRow {

@@ -85,11 +85,13 @@ Panel {
         ThemedList {
             id: list
 
+            readonly property bool narrow: width < Theme.em(56)
+
             Layout.fillWidth: true
             Layout.fillHeight: true
             rows: page.book.rows
             keyOf: row => row.type + "_" + row.nodeID
-            rowHeight: Theme.em(3.6)
+            rowHeight: Theme.em(narrow ? 5 : 3.6)
             Accessible.name: qsTr("Snoozed")
             Keys.onReturnPressed: page.requestStation(currentIndex)
             Keys.onEnterPressed: page.requestStation(currentIndex)
@@ -99,6 +101,7 @@ Panel {
 
                 width: list.width
                 directory: page.directory
+                narrow: list.narrow
                 viewTop: list.contentY
                 viewBottom: list.contentY + list.height
                 current: ListView.isCurrentItem && list.activeFocus

@@ -52,6 +52,10 @@
         <source>Memory</source>
         <translation>Speicher</translation>
     </message>
+    <message>
+        <source>The sample failed, or less than 1% is in use: both are reported as 0.</source>
+        <translation>Die Messung schlug fehl, oder weniger als 1 % ist belegt: Beides wird als 0 gemeldet.</translation>
+    </message>
 </context>
 <context>
     <name>ConnectionState</name>

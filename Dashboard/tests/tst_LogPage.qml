@@ -211,12 +211,17 @@ Item {
             verify(list().contentItem.children.length < 50);
         }
 
-        function test_narrowRowsStandOnTwoLines() {
+        function test_narrowRowsHaveRoomForTheDetails() {
             prepare();
+            log.add(now, "Error snoozed", ["Camera disconnected",
+                                           "Station: Quay NVR / Camera: Stairs to the archive"]);
+            tryCompare(list(), "count", 4);
             const height = itemsWhere(page, item => item instanceof LogRow)[0].height;
             page.anchors.fill = undefined;
             page.width = Theme.em(40);
             tryVerify(() => itemsWhere(page, item => item instanceof LogRow)[0].height > height);
+            waitForRendering(page);
+            compare(itemsWhere(page, item => item instanceof LogRow && item.truncated).length, 0);
         }
     }
 }

@@ -151,7 +151,11 @@ Item {
             verify(hasText(page, "Camera disconnected"));
             page.anchors.fill = undefined;
             page.width = Theme.em(50);
-            tryVerify(() => hasText(page, "Lobby · Camera disconnected"));
+            const row = itemsWhere(page, item => item instanceof SnoozedRow)[0];
+            tryVerify(() => row.narrow);
+            verify(hasText(row, "Lobby"));
+            verify(hasText(row, "Camera disconnected"));
+            tryCompare(row, "truncated", false);
         }
 
         function test_onlyRowsInSightAreMade() {
