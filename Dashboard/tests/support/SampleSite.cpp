@@ -89,6 +89,7 @@ void fillErrors(FakePlugin &plugin)
     camera(QStringLiteral("quay"), quay, QStringLiteral("Gate B, licence plates"), 9 * Second);
     Q_EMIT plugin.isSupportSystemMonitor(QStringLiteral("lobby"), true);
     Q_EMIT plugin.isSupportSystemMonitor(QStringLiteral("quay"), true);
+    Q_EMIT plugin.isSupportSystemMonitor(QStringLiteral("quay/crane"), true);
     Q_EMIT plugin.isSupportSystemMonitor(QStringLiteral("archive"), false);
 }
 
