@@ -3,8 +3,7 @@ import QtQuick
 /// The health dashboard of a site, shown from the plug-in's surface and from what the host knows
 /// about the site.
 ///
-/// Keys: Ctrl+Page Down and Ctrl+Page Up turn the pages, Ctrl+F goes to the text filter, Esc clears
-/// the filters, Ctrl+E exports; see also ErrorTable and StationsPane.
+/// Keys: Esc clears the filters; see also DashboardKeys, ErrorTable and StationsPane.
 FocusScope {
     id: root
 
@@ -52,6 +51,10 @@ FocusScope {
     /// Whether the colours are dark. The user may change it, and the host may remember it.
     property bool dark: Theme.dark
 
+    /// How many times as large as in the application font everything is shown. The user may change
+    /// it, and the host may remember it.
+    property real zoom: Theme.zoom
+
     /// The page shown: "overview", "snoozed" or "log".
     property string page: "overview"
 
@@ -84,15 +87,23 @@ FocusScope {
     anchors.fill: parent
     focus: true
     onDarkChanged: Theme.dark = dark
+    onZoomChanged: Theme.zoom = zoom
     onServerRateChanged: Clock.serverRate = serverRate
     onServerOffsetChanged: Clock.serverOffset = serverOffset
-    Component.onCompleted: Theme.dark = dark
+    Component.onCompleted: {
+        Theme.dark = dark;
+        Theme.zoom = zoom;
+    }
 
     Connections {
         target: Theme
 
         function onDarkChanged() {
             root.dark = Theme.dark;
+        }
+
+        function onZoomChanged() {
+            root.zoom = Theme.zoom;
         }
     }
 
@@ -103,9 +114,8 @@ FocusScope {
             overview.clearFilters();
     }
 
-    Shortcut {
-        sequence: "Ctrl+F"
-        onActivated: {
+    DashboardKeys {
+        onFindWanted: {
             if (root.page === "log" && root.operationalLog) {
                 log.focusTextFilter();
             } else {
@@ -113,26 +123,13 @@ FocusScope {
                 overview.showTextFilter();
             }
         }
-    }
-
-    Shortcut {
-        sequence: "Ctrl+E"
-        onActivated: {
+        onExportWanted: {
             if (root.page === "log")
                 log.exportShown();
             else if (root.page === "overview")
                 overview.exportShown();
         }
-    }
-
-    Shortcut {
-        sequence: "Ctrl+PgDown"
-        onActivated: strip.step(1)
-    }
-
-    Shortcut {
-        sequence: "Ctrl+PgUp"
-        onActivated: strip.step(-1)
+        onTurned: step => strip.step(step)
     }
 
     StationErrorCounts {

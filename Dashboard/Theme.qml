@@ -13,8 +13,12 @@ QtObject {
     /// Whether the dark palette is shown; the host may set it.
     property bool dark: true
 
-    /// The application font's size in pixels.
-    readonly property real base: Math.max(10, metrics.font.pixelSize)
+    /// How many times as large as in the application font everything is shown.
+    property real zoom: 1
+    readonly property var zoomLevels: [0.8, 0.9, 1, 1.1, 1.25, 1.5, 1.75, 2, 2.5, 3]
+
+    /// An em in pixels.
+    readonly property real base: Math.max(10, metrics.font.pixelSize * zoom)
 
     readonly property real gap: em(0.5)
     readonly property real pad: em(0.75)
@@ -47,6 +51,13 @@ QtObject {
     readonly property color onStatus: dark ? "#11161b" : "#ffffff"
     readonly property color criticalGround: dark ? "#3a1c1b" : "#fbe4e2"
     readonly property color warningGround: dark ? "#3a2d14" : "#fdf0d5"
+
+    /// Shows everything larger by @p steps, or smaller when they are negative.
+    function zoomBy(steps: int) {
+        const reached = zoomLevels.findIndex(level => level >= zoom - 0.01);
+        const wanted = (reached < 0 ? zoomLevels.length - 1 : reached) + steps;
+        zoom = zoomLevels[Math.max(0, Math.min(zoomLevels.length - 1, wanted))];
+    }
 
     /// A number of ems in whole pixels.
     function em(count: real): real {

@@ -298,6 +298,28 @@ Item {
             compare(Theme.dark, false);
         }
 
+        function test_keysChangeTheSizeOfEverything() {
+            prepare();
+            const usual = Theme.em(10);
+            const tall = pane(ErrorRow).height;
+            keyClick(Qt.Key_Plus, Qt.ControlModifier);
+            verify(Theme.em(10) > usual);
+            tryVerify(() => pane(ErrorRow).height > tall);
+            compare(view.zoom, Theme.zoom);
+            keyClick(Qt.Key_Minus, Qt.ControlModifier);
+            keyClick(Qt.Key_Minus, Qt.ControlModifier);
+            verify(Theme.zoom < 1);
+            keyClick(Qt.Key_0, Qt.ControlModifier);
+            compare(Theme.em(10), usual);
+        }
+
+        function test_sizeFollowsTheHost() {
+            prepare({ "zoom": 2 });
+            compare(Theme.zoom, 2);
+            view.zoom = 1.5;
+            compare(Theme.zoom, 1.5);
+        }
+
         function test_withoutAWordFromTheHostTheColoursStay() {
             Theme.dark = false;
             prepare();

@@ -43,6 +43,21 @@ Item {
             expectContrast(["onStatus"], ["critical", "warning", "good", "unknown", "accent"], 4.5);
         }
 
+        function test_zoomStaysWithinItsLevels_data() {
+            return [{ "tag": "up", "zoom": 1, "steps": 1, "result": 1.1 },
+                    { "tag": "down", "zoom": 1, "steps": -1, "result": 0.9 },
+                    { "tag": "largest", "zoom": 3, "steps": 1, "result": 3 },
+                    { "tag": "smallest", "zoom": 0.8, "steps": -1, "result": 0.8 },
+                    { "tag": "beyond", "zoom": 7, "steps": -1, "result": 2.5 },
+                    { "tag": "between", "zoom": 1.4, "steps": 1, "result": 1.75 }];
+        }
+
+        function test_zoomStaysWithinItsLevels(data) {
+            Theme.zoom = data.zoom;
+            Theme.zoomBy(data.steps);
+            compare(Theme.zoom, data.result);
+        }
+
         function test_stateColoursDiffer() {
             const colours = ["critical", "warning", "good", "unknown", "done"].map(
                 state => String(Theme.stateColor(state)));
