@@ -668,6 +668,14 @@
     </message>
 </context>
 <context>
+    <name>SearchField</name>
+    <message>
+        <source>%1 (Ctrl+F)</source>
+        <comment>what the field is for</comment>
+        <translation>%1 (Strg+F)</translation>
+    </message>
+</context>
+<context>
     <name>SnoozeMenu</name>
     <message>
         <source>15 minutes</source>

@@ -67,6 +67,16 @@
     </message>
 </context>
 <context>
+    <name>ExportDialog</name>
+    <message numerus="yes">
+        <source>%n row(s)</source>
+        <translation>
+            <numerusform>%n row</numerusform>
+            <numerusform>%n rows</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>FilterNotice</name>
     <message numerus="yes">
         <source>%1 and %n more station(s)</source>
@@ -157,16 +167,6 @@
         <translation>
             <numerusform>%1, %2, %n error</numerusform>
             <numerusform>%1, %2, %n errors</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
-    <name>ExportDialog</name>
-    <message numerus="yes">
-        <source>%n row(s)</source>
-        <translation>
-            <numerusform>%n row</numerusform>
-            <numerusform>%n rows</numerusform>
         </translation>
     </message>
 </context>
