@@ -9,7 +9,7 @@ Rectangle {
     property bool serverConnected: false
     property var connectionSince
 
-    implicitHeight: Theme.em(3.2)
+    implicitHeight: Math.max(Theme.em(3.2), connection.implicitHeight + Theme.gap)
     color: serverConnected ? Theme.surface : Theme.criticalGround
 
     RowLayout {
@@ -28,6 +28,8 @@ Rectangle {
         }
 
         ConnectionState {
+            id: connection
+
             Layout.fillWidth: true
             connected: header.serverConnected
             since: header.connectionSince
