@@ -68,7 +68,8 @@ EmptyState {
     detail: {
         switch (reason) {
         case "lost":
-            return [lostSince, failure, attempt].filter(line => line !== "").join("\n");
+            return lostSince + (failure === "" ? "" : "\n" + failure)
+                   + (attempt === "" ? "" : "\n" + attempt);
         case "filtered":
             return qsTr("Press Esc to show all errors.");
         case "settling":
