@@ -11,7 +11,9 @@ Button {
     property string hint
     /// Whether a small arrow promises a menu.
     property bool opensMenu: false
-    property color textColor: enabled ? Theme.text : Theme.disabledText
+    /// Whether the button is filled, as what a dialog is there for is when it is highlighted.
+    readonly property bool filled: highlighted && enabled && !down
+    property color textColor: filled ? Theme.onStatus : enabled ? Theme.text : Theme.disabledText
 
     implicitHeight: Theme.controlHeight
     implicitWidth: Math.max(implicitHeight, implicitContentWidth + leftPadding + rightPadding)
@@ -35,15 +37,21 @@ Button {
 
     background: Rectangle {
         radius: Theme.radius
-        color: button.down || button.checked ? Theme.selection
-                                             : button.hovered && button.enabled ? Theme.hover
-                                                                                : Theme.raised
+        color: {
+            if (button.filled)
+                return button.hovered ? Qt.lighter(Theme.accent, 1.1) : Theme.accent;
+            if (button.down || button.checked)
+                return Theme.selection;
+            return button.hovered && button.enabled ? Theme.hover : Theme.raised;
+        }
         opacity: button.flat && !button.hovered && !button.down ? 0 : 1
         border.color: button.enabled ? Theme.outline : Theme.border
         border.width: button.flat ? 0 : Theme.line
     }
 
     FocusRing {
+        // Around a filled button it would not be seen.
+        anchors.margins: button.filled ? -3 * Theme.line : -Theme.line
         visible: button.visualFocus
     }
 

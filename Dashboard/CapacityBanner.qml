@@ -56,7 +56,7 @@ Column {
 
         width: parent?.width ?? 0
         height: Math.max(Theme.em(2.8), label.implicitHeight + Theme.gap)
-        color: Theme.dark ? "#3a2d14" : "#fdf0d5"
+        color: Theme.warningGround
         Accessible.role: Accessible.AlertMessage
         Accessible.name: text
 

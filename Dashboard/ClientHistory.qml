@@ -1,7 +1,8 @@
 import QtQuick
 
-/// The client machine's samples of the last minutes, oldest first. A failed sample is null; the
-/// monitor reports it as a negative CPU usage and as no memory in use at all.
+/// The client machine's samples of the last minutes, oldest first. A failed sample is null: a CPU usage
+/// below 0 and a memory usage of 0. The monitor cuts fractions off, so a large memory that is in use by
+/// less than 1% reads as a failed sample too; a number there might be a wrong one.
 QtObject {
     id: history
 

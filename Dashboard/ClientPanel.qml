@@ -13,6 +13,9 @@ Panel {
         surface: panel.surface
     }
 
+    readonly property bool narrow: width < Theme.em(20)
+    readonly property string period: qsTr("last %1").arg(Format.duration(history.capacity))
+
     implicitHeight: column.implicitHeight + 2 * (Theme.pad + Theme.line)
 
     component Meter: ColumnLayout {
@@ -20,6 +23,8 @@ Panel {
 
         property string name
         property var samples: []
+        /// What may be behind a sample that is not known, or nothing.
+        property string doubt
         readonly property var latest: samples.length > 0 ? samples[samples.length - 1] : null
         readonly property string valueText: latest === null ? qsTr("unknown")
                                                             : Format.percent(latest)
@@ -29,6 +34,18 @@ Panel {
         spacing: Theme.em(0.3)
         Accessible.role: Accessible.Chart
         Accessible.name: qsTr("%1 of this computer: %2", "usage and value").arg(name).arg(valueText)
+        Accessible.description: tip.text
+
+        HoverHandler {
+            id: hover
+        }
+
+        Tip {
+            id: tip
+
+            text: meter.samples.length > 0 && meter.latest === null ? meter.doubt : ""
+            visible: text !== "" && hover.hovered
+        }
 
         RowLayout {
             spacing: Theme.gap
@@ -41,8 +58,8 @@ Panel {
             PlainLabel {
                 text: meter.valueText
                 color: meter.latest === null ? Theme.mutedText : Theme.text
-                font.pixelSize: meter.latest === null ? Theme.normalFont : Theme.largeFont
-                font.weight: Font.DemiBold
+                font.pixelSize: meter.latest === null ? Theme.smallFont : Theme.largeFont
+                font.weight: meter.latest === null ? Font.Normal : Font.DemiBold
             }
         }
 
@@ -63,13 +80,22 @@ Panel {
 
         PaneTitle {
             Layout.fillWidth: true
+            Layout.preferredHeight: Theme.controlHeight
             text: qsTr("This computer")
-            remark: qsTr("last %1").arg(Format.duration(panel.history.capacity))
+            remark: panel.narrow ? "" : panel.period
+        }
+
+        PlainLabel {
+            visible: panel.narrow
+            text: panel.period
+            color: Theme.mutedText
+            Accessible.role: Accessible.StaticText
+            Accessible.name: text
         }
 
         GridLayout {
             Layout.fillWidth: true
-            columns: panel.width < Theme.em(20) ? 1 : 2
+            columns: panel.narrow ? 1 : 2
             columnSpacing: Theme.em(1)
             rowSpacing: Theme.em(1)
 
@@ -80,6 +106,7 @@ Panel {
 
             Meter {
                 name: qsTr("Memory")
+                doubt: qsTr("The sample failed, or less than 1% is in use: both are reported as 0.")
                 samples: panel.history.memory
             }
         }

@@ -1,7 +1,8 @@
 import QtQuick
 import QtQuick.Layouts
 
-/// Whether the server is there, by shape, word and colour, and since when.
+/// Whether the server is there, by shape, word and colour, and since when, below where there is no room
+/// beside.
 RowLayout {
     id: state
 
@@ -30,15 +31,25 @@ RowLayout {
         status: state.connected ? "good" : "critical"
     }
 
-    PlainLabel {
-        text: state.word
-        color: Theme.stateColor(state.connected ? "good" : "critical")
-        font.weight: Font.DemiBold
-    }
+    Flow {
+        id: texts
 
-    PlainLabel {
         Layout.fillWidth: true
-        text: state.detail
-        color: state.connected ? Theme.mutedText : Theme.text
+        spacing: Theme.gap
+
+        ToldLabel {
+            width: Math.min(implicitWidth, texts.width)
+            text: state.word
+            color: Theme.stateColor(state.connected ? "good" : "critical")
+            font.weight: Font.DemiBold
+        }
+
+        ToldLabel {
+            width: Math.min(implicitWidth, texts.width)
+            wrapMode: Text.Wrap
+            maximumLineCount: 2
+            text: state.detail
+            color: state.connected ? Theme.mutedText : Theme.text
+        }
     }
 }

@@ -9,8 +9,8 @@ Rectangle {
     property bool serverConnected: false
     property var connectionSince
 
-    implicitHeight: Theme.em(3.2)
-    color: serverConnected ? Theme.surface : Theme.dark ? "#3a1c1b" : "#fbe4e2"
+    implicitHeight: Math.max(Theme.em(3.2), connection.implicitHeight + Theme.gap)
+    color: serverConnected ? Theme.surface : Theme.criticalGround
 
     RowLayout {
         anchors.fill: parent
@@ -18,7 +18,7 @@ Rectangle {
         anchors.rightMargin: Theme.pad
         spacing: Theme.em(1.5)
 
-        PlainLabel {
+        ToldLabel {
             Layout.maximumWidth: header.width * 0.35
             text: header.siteName
             font.pixelSize: Theme.largeFont
@@ -28,6 +28,8 @@ Rectangle {
         }
 
         ConnectionState {
+            id: connection
+
             Layout.fillWidth: true
             connected: header.serverConnected
             since: header.connectionSince

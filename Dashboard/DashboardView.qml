@@ -3,8 +3,7 @@ import QtQuick
 /// The health dashboard of a site, shown from the plug-in's surface and from what the host knows
 /// about the site.
 ///
-/// Keys: Ctrl+Page Down and Ctrl+Page Up turn the pages, Ctrl+F goes to the text filter, Esc clears
-/// the filters, Ctrl+E exports; see also ErrorTable and StationsPane.
+/// Keys: Esc clears the filters; see also DashboardKeys, ErrorTable and StationsPane.
 FocusScope {
     id: root
 
@@ -52,6 +51,10 @@ FocusScope {
     /// Whether the colours are dark. The user may change it, and the host may remember it.
     property bool dark: Theme.dark
 
+    /// How many times as large as in the application font everything is shown. The user may change
+    /// it, and the host may remember it.
+    property real zoom: Theme.zoom
+
     /// The page shown: "overview", "snoozed" or "log".
     property string page: "overview"
 
@@ -84,9 +87,13 @@ FocusScope {
     anchors.fill: parent
     focus: true
     onDarkChanged: Theme.dark = dark
+    onZoomChanged: Theme.zoom = zoom
     onServerRateChanged: Clock.serverRate = serverRate
     onServerOffsetChanged: Clock.serverOffset = serverOffset
-    Component.onCompleted: Theme.dark = dark
+    Component.onCompleted: {
+        Theme.dark = dark;
+        Theme.zoom = zoom;
+    }
 
     Connections {
         target: Theme
@@ -94,18 +101,21 @@ FocusScope {
         function onDarkChanged() {
             root.dark = Theme.dark;
         }
+
+        function onZoomChanged() {
+            root.zoom = Theme.zoom;
+        }
     }
 
     Keys.onEscapePressed: {
         if (page === "log")
             log.clearFilters();
-        else
+        else if (page === "overview")
             overview.clearFilters();
     }
 
-    Shortcut {
-        sequence: "Ctrl+F"
-        onActivated: {
+    DashboardKeys {
+        onFindWanted: {
             if (root.page === "log" && root.operationalLog) {
                 log.focusTextFilter();
             } else {
@@ -113,26 +123,19 @@ FocusScope {
                 overview.showTextFilter();
             }
         }
-    }
-
-    Shortcut {
-        sequence: "Ctrl+E"
-        onActivated: {
+        onExportWanted: {
             if (root.page === "log")
                 log.exportShown();
             else if (root.page === "overview")
                 overview.exportShown();
         }
+        onTurned: step => strip.step(step)
     }
 
-    Shortcut {
-        sequence: "Ctrl+PgDown"
-        onActivated: strip.step(1)
-    }
+    StationErrorCounts {
+        id: errorCounts
 
-    Shortcut {
-        sequence: "Ctrl+PgUp"
-        onActivated: strip.step(-1)
+        model: root.surface ? root.surface.getSystemErrorModel() : null
     }
 
     StationDirectory {
@@ -140,7 +143,7 @@ FocusScope {
 
         stations: root.stations
         statesKnown: root.knownStatesSince !== undefined
-        errorCounts: root.surface?.stationErrorList ?? []
+        errorCounts: errorCounts.counts
     }
 
     SnoozeBook {
@@ -181,7 +184,7 @@ FocusScope {
         bare: root.width < Theme.em(46)
         tabs: root.tabs
         current: root.page === "overview" && root.isSplit ? overview.pane : root.page
-        numbers: ({ "snoozed": book.snoozedCount + book.failingCount })
+        numbers: ({ "snoozed": book.rows.length })
         onChosen: key => root.show(key)
     }
 
@@ -206,6 +209,7 @@ FocusScope {
             connectionFailure: root.connectionFailure
             nextAttempt: root.validDate(root.nextAttempt)
             statesSince: root.knownStatesSince
+            snoozed: book.snoozedCount
             files: root.files
             clipboard: root.clipboard
             onNoticed: (status, text) => notice.show(status, text)

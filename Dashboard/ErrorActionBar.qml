@@ -23,7 +23,13 @@ RowLayout {
 
     // Where room is short, the drawings stand alone, those of the lesser actions first.
     readonly property bool narrow: width < Theme.em(44)
-    readonly property bool crowded: width - numbersLabel.implicitWidth < Theme.em(50)
+    readonly property bool crowded: width - title.textWidth < Theme.em(45)
+    readonly property string numbers: {
+        if (total === 0 && !(serverConnected && statesKnown))
+            return qsTr("unknown");
+        return shown === total ? qsTr("%1", "number of errors").arg(total)
+                               : qsTr("%1 of %2", "shown and all errors").arg(shown).arg(total);
+    }
     readonly property string snoozeText: selection.snoozableCount === 0
                                          ? qsTr("Snooze")
                                          : qsTr("Snooze %1", "number of errors")
@@ -36,30 +42,14 @@ RowLayout {
 
     spacing: Theme.gap
 
-    PlainLabel {
-        text: qsTr("Errors")
-        font.pixelSize: Theme.largeFont
-        font.weight: Font.DemiBold
-    }
-
-    PlainLabel {
-        id: numbersLabel
+    PaneTitle {
+        id: title
 
         Layout.fillWidth: true
-        readonly property string numbers: !(bar.serverConnected && bar.statesKnown)
-                                          && bar.total === 0
-                                          ? qsTr("unknown")
-                                          : bar.shown === bar.total
-                                          ? qsTr("%1", "number of errors").arg(bar.total)
-                                          : qsTr("%1 of %2", "shown and all errors").arg(bar.shown)
-                                            .arg(bar.total)
-        text: bar.selection.count === 0 ? numbers
-                                        : numbers + " · " + qsTr("%n selected", "",
-                                                                 bar.selection.count)
-        font.pixelSize: Theme.largeFont
-        color: Theme.mutedText
-        Accessible.role: Accessible.StaticText
-        Accessible.name: text
+        text: qsTr("Errors")
+        remark: bar.selection.count === 0 ? bar.numbers
+                                          : bar.numbers + " · " + qsTr("%n selected", "",
+                                                                       bar.selection.count)
     }
 
     ActionButton {
@@ -103,7 +93,8 @@ RowLayout {
         text: bar.narrow ? "" : qsTr("Reconnect")
         glyph: "reconnect"
         opensMenu: true
-        enabled: bar.serverConnected && bar.total > 0
+        // What is snoozed may be disconnected, too, and is not in the list.
+        enabled: bar.serverConnected
         hint: qsTr("Ask the server to reconnect what is disconnected")
         onClicked: reconnectMenu.popup(reconnect, 0, reconnect.height)
 

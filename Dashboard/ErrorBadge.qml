@@ -10,7 +10,7 @@ Rectangle {
 
     visible: count > 0
     implicitWidth: content.implicitWidth + 2 * Theme.gap
-    implicitHeight: Theme.em(1.6)
+    implicitHeight: Theme.em(1.5)
     radius: height / 2
     color: mouse.containsMouse ? Theme.hover : Theme.raised
     border.color: Theme.critical

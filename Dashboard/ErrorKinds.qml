@@ -31,14 +31,20 @@ QtObject {
     }
 
     /// The device of an error in words. A trigger text of the form "Station: Lobby / Camera: Door"
-    /// names the station too, which has a column of its own and is left out here.
+    /// or, for errors found at the start, "Lobby - Door" names the station too, which has a column of
+    /// its own and is left out here.
     function deviceName(type: int, category: int, deviceID: string, trigger: string,
                         stationName: string): string {
-        const start = ": " + stationName + " / ";
-        const at = stationName === "" ? -1 : trigger.indexOf(start);
-        if (at >= 0) {
-            const device = trigger.slice(at + start.length);
-            return category === cameraCategory ? device.replace(/^[^:]*: /, "") : device;
+        const isCamera = category === cameraCategory;
+        if (stationName !== "") {
+            const label = ": " + stationName + " / ";
+            const at = trigger.indexOf(label);
+            if (at >= 0) {
+                const device = trigger.slice(at + label.length);
+                return isCamera ? device.replace(/^[^:]*: /, "") : device;
+            }
+            if (isCamera && trigger.startsWith(stationName + " - "))
+                return trigger.slice(stationName.length + 3);
         }
         if (type === highNetworkUsage && deviceID !== "")
             return deviceID;

@@ -1,7 +1,7 @@
 import QtQuick
 
 /// Why the error list is empty: the server is lost, a filter hides what there is, the states of the
-/// devices are not known or have only just come, or all is well.
+/// devices are not known or have only just come, what there is was snoozed, or all is well.
 EmptyState {
     id: state
 
@@ -14,6 +14,8 @@ EmptyState {
     /// Since when the states of the devices have been known: a Date, or undefined.
     property var statesSince
     property int hidden: 0
+    /// How many errors are snoozed. They are out of the list, but not out of the world.
+    property int snoozed: 0
 
     /// States that have just come are in the list only after a while.
     readonly property int settlingTime: 10000
@@ -21,9 +23,17 @@ EmptyState {
                                                 statesSince?.getTime() ?? 0)
     readonly property bool settling: !statesSince || Clock.now - lastChange < settlingTime
 
-    readonly property string reason: !serverConnected ? "lost"
-                                                      : hidden > 0 ? "filtered"
-                                                                   : settling ? "settling" : "well"
+    readonly property string reason: {
+        if (!serverConnected)
+            return "lost";
+        if (hidden > 0)
+            return "filtered";
+        if (settling)
+            return "settling";
+        return snoozed > 0 ? "snoozed" : "well";
+    }
+    readonly property var glyphs: ({ "filtered": "filter", "settling": "clock",
+                                     "snoozed": "snoozed" })
 
     readonly property string lostSince: connectionSince
                                         ? qsTr("Nothing is known about the site since %1.")
@@ -40,7 +50,7 @@ EmptyState {
     }
 
     status: reason === "well" ? "good" : reason === "lost" ? "critical" : "unknown"
-    glyph: reason === "filtered" ? "filter" : reason === "settling" ? "clock" : ""
+    glyph: glyphs[reason] ?? ""
     title: {
         switch (reason) {
         case "lost":
@@ -49,6 +59,8 @@ EmptyState {
             return qsTr("A filter hides %n error(s)", "", hidden);
         case "settling":
             return qsTr("Checking the site");
+        case "snoozed":
+            return qsTr("%n error(s) snoozed, no others", "", snoozed);
         default:
             return qsTr("No errors");
         }
@@ -56,12 +68,15 @@ EmptyState {
     detail: {
         switch (reason) {
         case "lost":
-            return [lostSince, failure, attempt].filter(line => line !== "").join("\n");
+            return lostSince + (failure === "" ? "" : "\n" + failure)
+                   + (attempt === "" ? "" : "\n" + attempt);
         case "filtered":
             return qsTr("Press Esc to show all errors.");
         case "settling":
             return statesSince ? qsTr("The states of the devices have just come.")
                                : qsTr("The states of the devices are not known yet.");
+        case "snoozed":
+            return qsTr("What is snoozed may fail still; the page of the snoozes lists it.");
         default:
             return qsTr("All is well: no camera, station or volume reports an error.");
         }

@@ -13,6 +13,8 @@ Panel {
     property var nextAttempt
     /// See DashboardView.statesSince.
     property var statesSince
+    /// How many errors are snoozed.
+    property int snoozed: 0
     /// What writes files for the dashboard, or null; see DashboardView.files.
     property var files: null
     /// What takes texts into the clipboard, or null; see DashboardView.clipboard.
@@ -108,7 +110,7 @@ Panel {
         if (rows.length === 0)
             return;
         pasteboard.put(rows.map(row => lineOf(row)).join("\n"));
-        noticed("good", qsTr("%n error(s) copied", "", rows.length));
+        noticed("done", qsTr("%n error(s) copied", "", rows.length));
     }
 
     /// Asks where to save what the list shows; does nothing when that cannot be done.
@@ -120,12 +122,12 @@ Panel {
 
     function reconnectCameras() {
         surface.reconnectDisconnectCameras();
-        noticed("good", qsTr("Asked to reconnect all disconnected cameras"));
+        noticed("done", qsTr("Asked to reconnect all disconnected cameras"));
     }
 
     function reconnectSubstations() {
         surface.reconnectDisconnectSubstations();
-        noticed("good", qsTr("Asked to reconnect all disconnected sub-stations"));
+        noticed("done", qsTr("Asked to reconnect all disconnected sub-stations"));
     }
 
     Clipboard {
@@ -144,7 +146,8 @@ Panel {
         id: exportDialog
 
         files: pane.files
-        onSaved: (path, count) => pane.noticed("good", Format.fill(
+        rowCount: pane.shown.count
+        onSaved: (path, count) => pane.noticed("done", Format.fill(
                                                    qsTr("%n error(s) saved as %1", "", count), path))
     }
 
@@ -229,11 +232,12 @@ Panel {
                 nextAttempt: pane.nextAttempt
                 statesSince: pane.statesSince
                 hidden: pane.total.count - pane.shown.count
+                snoozed: pane.snoozed
             }
         }
     }
 
     FocusRing {
-        visible: table.activeFocus && table.count === 0
+        visible: table.activeFocus && table.currentIndex < 0
     }
 }

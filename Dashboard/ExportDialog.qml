@@ -12,6 +12,8 @@ Popup {
     /// What is saved: its function rows() takes the time and returns lists of fields, headings
     /// first. It is asked when the file is written, which holds what is shown then.
     property var sheet: null
+    /// How many rows it has now.
+    property int rowCount: 0
 
     readonly property string path: files && field.text.trim() !== ""
                                    ? files.resolve(field.text.trim()) : ""
@@ -75,24 +77,28 @@ Popup {
         Keys.onReturnPressed: dialog.confirm()
         Keys.onEnterPressed: dialog.confirm()
 
-        PlainLabel {
+        PaneTitle {
             id: title
 
-            text: qsTr("Export as CSV")
-            font.pixelSize: Theme.largeFont
-            font.weight: Font.DemiBold
-        }
-
-        PlainLabel {
-            text: qsTr("File")
-            color: Theme.mutedText
-        }
-
-        ThemedTextField {
-            id: field
-
             Layout.fillWidth: true
-            Accessible.name: qsTr("File")
+            text: qsTr("Export as CSV")
+            remark: qsTr("%n row(s)", "", dialog.rowCount)
+        }
+
+        ColumnLayout {
+            spacing: Theme.em(0.3)
+
+            PlainLabel {
+                text: qsTr("File")
+                color: Theme.mutedText
+            }
+
+            ThemedTextField {
+                id: field
+
+                Layout.fillWidth: true
+                Accessible.name: qsTr("File")
+            }
         }
 
         RowLayout {
@@ -129,6 +135,7 @@ Popup {
                 onClicked: dialog.close()
             }
             ActionButton {
+                highlighted: true
                 text: dialog.replaces ? qsTr("Replace") : qsTr("Export")
                 enabled: dialog.path !== ""
                 onClicked: dialog.confirm()

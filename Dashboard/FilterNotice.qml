@@ -49,7 +49,7 @@ Rectangle {
             color: Theme.accent
         }
 
-        PlainLabel {
+        ToldLabel {
             id: label
 
             Layout.fillWidth: true

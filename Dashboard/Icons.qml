@@ -5,6 +5,7 @@ import QtQuick
 /// The line drawings of the dashboard as SVG path data, each in a box of 24 by 24.
 QtObject {
     readonly property string slash: " M3 3 L21 21"
+    readonly property string disc: "M2 12 a10 10 0 1 0 20 0 a10 10 0 1 0 -20 0 z"
 
     readonly property var paths: ({
             "cameraOff": "M3 8 h11 v9 h-11 z M14 12 l6 -4 v9 l-6 -4" + slash,
@@ -47,7 +48,8 @@ QtObject {
 
     /// Filled bodies behind the marks of the states.
     readonly property var bodies: ({
-            "good": "M2 12 a10 10 0 1 0 20 0 a10 10 0 1 0 -20 0 z",
+            "good": disc,
+            "done": disc,
             "critical": "M8 2 h8 l6 6 v8 l-6 6 h-8 l-6 -6 v-8 z",
             "warning": "M12 2.5 L23 21.5 H1 z",
             "unknown": "M4 3 h16 q1 0 1 1 v16 q0 1 -1 1 h-16 q-1 0 -1 -1 v-16 q0 -1 1 -1 z"
@@ -56,6 +58,7 @@ QtObject {
     /// What stands on such a body.
     readonly property var marks: ({
             "good": paths.tick,
+            "done": paths.tick,
             "critical": paths.cross,
             "warning": paths.bang,
             "unknown": paths.question

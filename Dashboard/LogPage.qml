@@ -64,6 +64,7 @@ Panel {
     onVisibleChanged: read()
     onLogChanged: refresh()
     onTextChanged: {
+        list.contentY = 0;
         limit = portion;
         refresh();
     }
@@ -90,7 +91,8 @@ Panel {
         id: dialog
 
         files: page.files
-        onSaved: (path, count) => page.noticed("good", Format.fill(
+        rowCount: page.sheet.entries.length
+        onSaved: (path, count) => page.noticed("done", Format.fill(
                                                    qsTr("%n entries saved as %1", "", count), path))
     }
 
@@ -150,7 +152,8 @@ Panel {
             Layout.fillWidth: true
             Layout.fillHeight: true
             rows: page.sheet.entries
-            rowHeight: narrow ? Theme.em(3.4) : Theme.rowHeight
+            keyOf: entry => entry.time + entry.name + page.sheet.details(entry)
+            rowHeight: narrow ? Theme.em(4.6) : Theme.rowHeight
             Accessible.name: qsTr("Operational log")
 
             delegate: LogRow {

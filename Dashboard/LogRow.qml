@@ -18,7 +18,7 @@ Item {
 
     signal pressed
 
-    height: narrow ? Theme.em(3.4) : Theme.rowHeight
+    height: narrow ? Theme.em(4.6) : Theme.rowHeight
 
     Accessible.role: Accessible.ListItem
     Accessible.name: Format.fill(qsTr("%1, %2: %3", "time, entry, details"), time, modelData.name,
@@ -75,7 +75,10 @@ Item {
         x: row.narrow ? Theme.pad : nameLabel.x + nameLabel.width + Theme.pad
         y: row.narrow ? Theme.em(1.7) : 0
         width: row.width - x - Theme.em(1)
-        height: timeLabel.height
+        height: row.narrow ? Theme.em(2.7) : row.height
+        verticalAlignment: row.narrow ? Text.AlignTop : Text.AlignVCenter
+        wrapMode: row.narrow ? Text.Wrap : Text.NoWrap
+        maximumLineCount: row.narrow ? 2 : 1
         text: row.details
         color: row.narrow ? Theme.mutedText : Theme.text
     }

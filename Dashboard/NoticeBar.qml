@@ -1,12 +1,13 @@
 import QtQuick
 import QtQuick.Layouts
 
-/// A notice that goes by itself: soon when all is well, later when it is not. A pointer that rests
+/// A notice that goes by itself: soon when all went well, later when not. A pointer that rests
 /// on it keeps it.
 Panel {
     id: notice
 
-    property string status: "good"
+    /// A state of StateMark.
+    property string status: "done"
     property string text
 
     function show(newStatus: string, newText: string) {

@@ -12,6 +12,8 @@ FocusScope {
     property string connectionFailure
     property var nextAttempt
     property var statesSince
+    /// How many errors are snoozed.
+    property int snoozed: 0
     property var files: null
     property var clipboard: null
 
@@ -126,6 +128,7 @@ FocusScope {
         connectionFailure: page.connectionFailure
         nextAttempt: page.nextAttempt
         statesSince: page.statesSince
+        snoozed: page.snoozed
         files: page.files
         clipboard: page.clipboard
         onStationRequested: stationID => page.showStation(stationID)

@@ -7,10 +7,14 @@ RowLayout {
 
     property string text
     property string remark
+    /// How wide both are when there is room for them.
+    readonly property real textWidth: textLabel.implicitWidth + spacing + remarkLabel.implicitWidth
 
     spacing: Theme.gap
 
     PlainLabel {
+        id: textLabel
+
         text: title.text
         font.pixelSize: Theme.largeFont
         font.weight: Font.DemiBold
@@ -18,7 +22,9 @@ RowLayout {
         Accessible.name: text
     }
 
-    PlainLabel {
+    ToldLabel {
+        id: remarkLabel
+
         Layout.fillWidth: true
         text: title.remark
         font.pixelSize: Theme.largeFont

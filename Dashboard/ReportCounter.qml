@@ -13,7 +13,8 @@ QtObject {
 
     readonly property var model: surface ? surface.getSystemResourceModel() : null
     property int count: 0
-    /// Milliseconds since the epoch; 0 before the first report.
+    /// Milliseconds since the epoch, those of the first look where reports were found; 0 before the
+    /// first report.
     property real lastTime: 0
 
     /// How many of the newest entries of a row's history stand for reports. Each report moves the
@@ -35,7 +36,10 @@ QtObject {
         return found;
     }
 
-    Component.onCompleted: count = countFound()
+    Component.onCompleted: {
+        count = countFound();
+        lastTime = count > 0 ? Date.now() : 0;
+    }
 
     readonly property Connections reports: Connections {
         target: counter.surface

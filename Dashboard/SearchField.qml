@@ -41,6 +41,15 @@ ThemedTextField {
         color: Theme.mutedText
     }
 
+    HoverHandler {
+        id: hover
+    }
+
+    Tip {
+        text: qsTr("%1 (Ctrl+F)", "what the field is for").arg(field.placeholderText)
+        visible: hover.hovered && !field.activeFocus
+    }
+
     Timer {
         id: typing
 

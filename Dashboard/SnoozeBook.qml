@@ -26,6 +26,7 @@ QtObject {
     property var rows: []
     property int snoozedCount: 0
     property int failingCount: 0
+    property int askedCount: 0
 
     // By the unique id of the error. An entry is in force while the server snoozes its node, and
     // listed while its error is in the list.
@@ -162,8 +163,10 @@ QtObject {
         shown.sort((one, other) => order.indexOf(one.state) - order.indexOf(other.state)
                                    || one.until - other.until);
         rows = shown;
-        snoozedCount = shown.filter(entry => entry.state === "snoozed").length;
-        failingCount = shown.filter(entry => entry.state === "failing").length;
+        const countOf = state => shown.filter(entry => entry.state === state).length;
+        snoozedCount = countOf("snoozed");
+        failingCount = countOf("failing");
+        askedCount = countOf("asked");
     }
 
     onServerListChanged: {

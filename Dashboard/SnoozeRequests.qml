@@ -22,9 +22,9 @@ QtObject {
     /// How many stayed without an answer, for too long or for ever.
     readonly property int unanswered: lost + (patience.running ? 0 : pending)
 
-    /// "good", "critical", or "unknown" while answers are awaited.
+    /// "done", "critical", or "unknown" while answers are awaited.
     readonly property string status: refused + unsent + unanswered > 0
-                                     ? "critical" : pending > 0 ? "unknown" : "good"
+                                     ? "critical" : pending > 0 ? "unknown" : "done"
 
     /// Where the requests stand, in words.
     readonly property string summary: {

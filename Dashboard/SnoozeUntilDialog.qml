@@ -153,6 +153,7 @@ Popup {
                 onClicked: dialog.close()
             }
             ActionButton {
+                highlighted: true
                 text: qsTr("Snooze")
                 enabled: dialog.valid
                 onClicked: dialog.confirm()

@@ -32,10 +32,14 @@ Panel {
             Layout.margins: Theme.pad
             Layout.preferredHeight: Theme.controlHeight
             text: qsTr("Snoozed")
-            remark: page.book.failingCount > 0
-                    ? page.book.snoozedCount + " · "
-                      + qsTr("%n still failing", "", page.book.failingCount)
-                    : page.book.snoozedCount
+            remark: {
+                const parts = [String(page.book.rows.length)];
+                if (page.book.failingCount > 0)
+                    parts.push(qsTr("%n still failing", "", page.book.failingCount));
+                if (page.book.askedCount > 0)
+                    parts.push(qsTr("%n not confirmed", "", page.book.askedCount));
+                return parts.join(" · ");
+            }
         }
 
         RowLayout {
@@ -81,10 +85,13 @@ Panel {
         ThemedList {
             id: list
 
+            readonly property bool narrow: width < Theme.em(56)
+
             Layout.fillWidth: true
             Layout.fillHeight: true
             rows: page.book.rows
-            rowHeight: Theme.em(3.6)
+            keyOf: row => row.type + "_" + row.nodeID
+            rowHeight: Theme.em(narrow ? 5 : 3.6)
             Accessible.name: qsTr("Snoozed")
             Keys.onReturnPressed: page.requestStation(currentIndex)
             Keys.onEnterPressed: page.requestStation(currentIndex)
@@ -94,6 +101,7 @@ Panel {
 
                 width: list.width
                 directory: page.directory
+                narrow: list.narrow
                 viewTop: list.contentY
                 viewBottom: list.contentY + list.height
                 current: ListView.isCurrentItem && list.activeFocus

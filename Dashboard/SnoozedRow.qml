@@ -1,7 +1,7 @@
 import QtQuick
 
 /// One snooze: its state and who asked for it; the device and its error; the station; what is left
-/// of it and until when. In a narrow list the station stands before the error.
+/// of it and until when. In a narrow list the station stands between the device and its error.
 Item {
     id: row
 
@@ -9,6 +9,7 @@ Item {
     required property int index
 
     required property StationDirectory directory
+    required property bool narrow
     /// What is seen of the list that the row is in, in the list's coordinates.
     required property real viewTop
     required property real viewBottom
@@ -16,7 +17,6 @@ Item {
     required property bool current
 
     readonly property string progress: modelData.state
-    readonly property bool narrow: width < Theme.em(56)
     // The software renderer forgets the clip of a Shape that lies outside it entirely, so drawings
     // that are scrolled out of sight are hidden.
     readonly property bool drawn: y + height > viewTop && y < viewBottom
@@ -56,7 +56,7 @@ Item {
     signal pressed
     signal doubleClicked
 
-    height: Theme.em(3.6)
+    height: Theme.em(narrow ? 5 : 3.6)
 
     Accessible.role: Accessible.ListItem
     Accessible.name: Format.fill(qsTr("%1: %2, %3, %4, %5, %6, %7",
@@ -109,9 +109,11 @@ Item {
     component Lines: Column {
         property alias first: firstLine.text
         property alias second: secondLine.text
+        property alias third: thirdLine.text
         property alias firstColor: firstLine.color
         property int alignment: Text.AlignLeft
-        readonly property bool truncated: visible && (firstLine.truncated || secondLine.truncated)
+        readonly property bool truncated: visible && (firstLine.truncated || secondLine.truncated
+                                                      || thirdLine.truncated)
 
         anchors.verticalCenter: parent.verticalCenter
         spacing: Theme.em(0.15)
@@ -129,6 +131,14 @@ Item {
             width: parent.width
             visible: text !== ""
             horizontalAlignment: parent.alignment
+            color: Theme.mutedText
+        }
+
+        PlainLabel {
+            id: thirdLine
+
+            width: parent.width
+            visible: text !== ""
             color: Theme.mutedText
         }
     }
@@ -150,8 +160,8 @@ Item {
         width: row.narrow ? timeLines.x - Theme.pad - x
                           : (timeLines.x - 2 * Theme.pad - x) * 0.55
         first: row.device
-        second: row.narrow && row.device !== row.stationName ? row.stationName + " · " + row.error
-                                                             : row.error
+        second: row.narrow && row.device !== row.stationName ? row.stationName : ""
+        third: row.error
     }
 
     Lines {

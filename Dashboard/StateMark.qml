@@ -3,7 +3,8 @@ import QtQuick.Shapes
 
 /// A state told by its outline as well as its colour: a disc with a tick for "good", an octagon
 /// with a cross for "critical", a triangle for "warning" and a square with a question mark for
-/// "unknown".
+/// "unknown". What the user did here is "done", with the tick but not in green, which is kept for what
+/// is well at the site.
 Shape {
     id: mark
 

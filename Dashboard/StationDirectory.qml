@@ -1,6 +1,6 @@
 import QtQuick
 
-/// The stations as the host lists them, joined with the plug-in's error counts.
+/// The stations as the host lists them, joined with the numbers of their errors.
 ///
 /// The rows change only when stations come, go, move or are renamed, so that a view of them stays
 /// where it is while counts and connection states change.
@@ -11,7 +11,7 @@ QtObject {
     property var stations: []
     /// Whether the host knows the states of the stations.
     property bool statesKnown: false
-    /// The plug-in's list of {stationID, errorNumber}.
+    /// List of {stationID, errorNumber}; see StationErrorCounts.
     property var errorCounts: []
 
     /// List of {stationID, name, depth}: every station below its parent, then those that have
@@ -83,7 +83,11 @@ QtObject {
             rows = fresh;
     }
 
+    // Numbers may change with every error of a storm, this seldom does.
+    readonly property string unlisted: Object.keys(errorsByID).filter(
+                                           stationID => !(stationID in byID)).join("\n")
+
     onByIDChanged: refresh()
-    onErrorsByIDChanged: refresh()
+    onUnlistedChanged: refresh()
     Component.onCompleted: refresh()
 }

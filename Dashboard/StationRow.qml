@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Layouts
 
 /// One station: its state by shape and word, whether it supports monitoring, and its errors.
 Item {
@@ -24,8 +23,12 @@ Item {
     readonly property var supported: support.answerOf(stationID)
     // The software renderer forgets the clip of a Shape that lies outside it entirely, so drawings
     // that are scrolled out of sight are hidden.
-    readonly property real markTop: y + (height - mark.height) / 2
-    readonly property bool drawn: markTop + mark.height > viewTop && markTop < viewBottom
+    readonly property bool drawn: y + mark.y + mark.height > viewTop && y + mark.y < viewBottom
+
+    /// In a narrow list the number of errors stands beside the name alone, so that the state has the
+    /// whole width.
+    readonly property bool narrow: width < Theme.em(26)
+    readonly property real textEnd: width - Theme.em(1.1)
 
     readonly property int supportRevision: support.revision
     readonly property int errorCount: directory.errorsOf(stationID)
@@ -47,7 +50,7 @@ Item {
     signal chosen
     signal filterRequested
 
-    height: Theme.em(3.5)
+    height: Theme.em(3.8)
 
     Accessible.role: Accessible.ListItem
     Accessible.name: Format.fill(qsTr("%1, %2, %n error(s)", "station, state", errorCount), name,
@@ -79,47 +82,52 @@ Item {
         onClicked: row.chosen()
     }
 
-    RowLayout {
-        anchors.fill: parent
-        anchors.leftMargin: Theme.pad + Theme.em(1.2) * row.modelData.depth
-        anchors.rightMargin: Theme.pad
-        spacing: Theme.gap
+    StateMark {
+        id: mark
 
-        StateMark {
-            id: mark
+        anchors.verticalCenter: parent.verticalCenter
+        x: Theme.pad + Theme.em(1.2) * row.modelData.depth
+        opacity: row.drawn ? 1 : 0
+        status: row.connected === true ? "good" : row.connected === false ? "critical" : "unknown"
+    }
 
-            opacity: row.drawn ? 1 : 0
-            status: row.connected === true ? "good" : row.connected === false ? "critical"
-                                                                              : "unknown"
+    Column {
+        id: texts
+
+        readonly property real widthBesideBadge: (badge.visible ? badge.x - Theme.gap : row.textEnd) - x
+
+        anchors.verticalCenter: parent.verticalCenter
+        x: mark.x + mark.width + Theme.gap
+        spacing: Theme.em(0.2)
+
+        PlainLabel {
+            id: nameLabel
+
+            width: texts.widthBesideBadge
+            text: row.name
+            font.weight: row.focused ? Font.Bold : Font.Normal
         }
 
-        ColumnLayout {
-            Layout.fillWidth: true
-            spacing: 0
+        PlainLabel {
+            id: detailLabel
 
-            PlainLabel {
-                id: nameLabel
-
-                Layout.fillWidth: true
-                text: row.name
-                font.weight: row.focused ? Font.Bold : Font.Normal
-            }
-
-            PlainLabel {
-                id: detailLabel
-
-                Layout.fillWidth: true
-                text: row.detail
-                font.pixelSize: Theme.smallFont
-                color: Theme.mutedText
-            }
+            width: row.narrow ? row.textEnd - texts.x : texts.widthBesideBadge
+            wrapMode: Text.Wrap
+            maximumLineCount: 2
+            text: row.detail
+            font.pixelSize: Theme.smallFont
+            color: Theme.mutedText
         }
+    }
 
-        ErrorBadge {
-            opacity: row.drawn ? 1 : 0
-            count: row.errorCount
-            onClicked: row.filterRequested()
-        }
+    ErrorBadge {
+        id: badge
+
+        x: row.textEnd - width
+        y: row.narrow ? texts.y + (nameLabel.height - height) / 2 : (row.height - height) / 2
+        opacity: row.drawn ? 1 : 0
+        count: row.errorCount
+        onClicked: row.filterRequested()
     }
 
     Tip {

@@ -39,7 +39,8 @@ Panel {
             Layout.fillWidth: true
             Layout.fillHeight: true
             rows: pane.directory.rows
-            rowHeight: Theme.em(3.5)
+            keyOf: row => row.stationID
+            rowHeight: Theme.em(3.8)
             firstRow: rows.findIndex(row => row.stationID === pane.focusedStation)
             Accessible.name: qsTr("Stations")
 

@@ -5,15 +5,20 @@ import QtQuick
 /// Colours, sizes and type of the dashboard.
 ///
 /// Everything is measured in ems of the application font, so a larger font enlarges the whole
-/// dashboard. Colours never carry a meaning alone: a shape and a word stand beside them.
+/// dashboard. Colours never carry a meaning alone: a shape and a word stand beside them. Texts have a
+/// contrast of 4.5 and marks one of 3, at least, to every ground that they stand on.
 QtObject {
     id: theme
 
     /// Whether the dark palette is shown; the host may set it.
     property bool dark: true
 
-    /// The application font's size in pixels.
-    readonly property real base: Math.max(10, metrics.font.pixelSize)
+    /// How many times as large as in the application font everything is shown.
+    property real zoom: 1
+    readonly property var zoomLevels: [0.8, 0.9, 1, 1.1, 1.25, 1.5, 1.75, 2, 2.5, 3]
+
+    /// An em in pixels.
+    readonly property real base: Math.max(10, metrics.font.pixelSize * zoom)
 
     readonly property real gap: em(0.5)
     readonly property real pad: em(0.75)
@@ -32,25 +37,34 @@ QtObject {
     readonly property color raised: dark ? "#242d36" : "#f2f5f8"
     readonly property color hover: dark ? "#2c3742" : "#e4eaf0"
     readonly property color border: dark ? "#36424e" : "#c3ccd6"
-    readonly property color outline: dark ? "#5c6c7c" : "#8593a1"
+    readonly property color outline: dark ? "#788a9c" : "#74828f"
     readonly property color text: dark ? "#e9eef3" : "#16202a"
     readonly property color mutedText: dark ? "#a5b4c3" : "#4c5a68"
     readonly property color disabledText: dark ? "#667584" : "#8895a2"
     readonly property color accent: dark ? "#5aaeff" : "#0a5dc2"
     readonly property color selection: dark ? "#1d3d5c" : "#d3e6fb"
 
-    readonly property color critical: dark ? "#ff7268" : "#b3241b"
+    readonly property color critical: dark ? "#ff7e75" : "#b3241b"
     readonly property color warning: dark ? "#ffbd55" : "#8a5300"
     readonly property color good: dark ? "#56c990" : "#16693c"
     readonly property color unknown: dark ? "#a5b4c3" : "#566472"
     readonly property color onStatus: dark ? "#11161b" : "#ffffff"
+    readonly property color criticalGround: dark ? "#3a1c1b" : "#fbe4e2"
+    readonly property color warningGround: dark ? "#3a2d14" : "#fdf0d5"
+
+    /// Shows everything larger by @p steps, or smaller when they are negative.
+    function zoomBy(steps: int) {
+        const reached = zoomLevels.findIndex(level => level >= zoom - 0.01);
+        const wanted = (reached < 0 ? zoomLevels.length - 1 : reached) + steps;
+        zoom = zoomLevels[Math.max(0, Math.min(zoomLevels.length - 1, wanted))];
+    }
 
     /// A number of ems in whole pixels.
     function em(count: real): real {
         return Math.round(base * count);
     }
 
-    /// The colour of a state: "critical", "warning", "good" or "unknown".
+    /// The colour of a state: "critical", "warning", "good", "unknown" or "done".
     function stateColor(state: string): color {
         switch (state) {
         case "critical":
@@ -59,6 +73,8 @@ QtObject {
             return warning;
         case "good":
             return good;
+        case "done":
+            return accent;
         default:
             return unknown;
         }

@@ -16,10 +16,12 @@ ComboBox {
 
     Accessible.description: displayText
 
-    contentItem: PlainLabel {
+    contentItem: ToldLabel {
         leftPadding: Theme.gap
+        rightPadding: Theme.gap
         text: box.displayText
         font: box.font
+        asked: box.visualFocus && !box.popup.visible
     }
 
     indicator: Glyph {
@@ -48,9 +50,10 @@ ComboBox {
         text: modelData[box.textRole] ?? modelData
         Accessible.name: text
 
-        contentItem: PlainLabel {
+        contentItem: ToldLabel {
             text: option.text
             font.pixelSize: Theme.normalFont
+            asked: option.highlighted
         }
 
         background: Rectangle {

@@ -1,7 +1,8 @@
 import QtQuick
 import QtQuick.Controls.Basic
 
-/// A list that creates only the rows in sight, which stay in sight when they are replaced.
+/// A list that creates only the rows in sight, which stay in sight when others come or go; at its top
+/// it stays at the top.
 ///
 /// Keys: arrows, Page, Home and End move.
 ListView {
@@ -9,6 +10,8 @@ ListView {
 
     /// What the list shows: a list of objects, each its row's modelData.
     property var rows: []
+    /// The key of a row. By it, the list and the keyboard stay on their rows when others come or go.
+    required property var keyOf
     required property real rowHeight
 
     /// The row that the keyboard is on first.
@@ -28,14 +31,28 @@ ListView {
 
     ScrollBar.vertical: ThemedScrollBar {}
 
+    // The rows before the last change.
+    property var shownRows: []
+
     onRowsChanged: {
-        const top = contentY;
-        const row = currentIndex;
+        const isAtTop = contentY <= 0;
+        const top = contentY + (isAtTop ? 0 : moveOf(Math.floor(contentY / rowHeight)) * rowHeight);
+        const row = currentIndex + moveOf(currentIndex);
+        shownRows = rows;
         model = rows;
         currentIndex = Math.min(row, count - 1);
         takeFirst();
         forceLayout();
         contentY = Math.max(0, Math.min(top, contentHeight - height));
+    }
+
+    /// How many rows further down stands now what stood in @p row; 0 when it is gone.
+    function moveOf(row: int): int {
+        if (row < 0 || row >= shownRows.length)
+            return 0;
+        const key = keyOf(shownRows[row]);
+        const now = rows.findIndex(candidate => keyOf(candidate) === key);
+        return now < 0 ? 0 : now - row;
     }
 
     onActiveFocusChanged: takeFirst()

@@ -29,8 +29,9 @@ Item {
 
     readonly property int networkType: 2
     readonly property var samples: reported > 0 ? (usageListRole ?? []).slice(-reported) : []
-    readonly property bool known: samples.length > 0
-    readonly property real value: known ? samples[samples.length - 1] : 0
+    readonly property real value: samples[samples.length - 1] ?? -1
+    // A sample that failed is reported as a negative one.
+    readonly property bool known: value >= 0
     // The rule that raises the error compares whole percentages too.
     readonly property bool over: known && Math.round(value) >= (thresholdRole ?? 101)
     readonly property color lineColor: over ? Theme.warning : Theme.accent

@@ -52,6 +52,10 @@
         <source>Memory</source>
         <translation>Speicher</translation>
     </message>
+    <message>
+        <source>The sample failed, or less than 1% is in use: both are reported as 0.</source>
+        <translation>Die Messung schlug fehl, oder weniger als 1 % ist belegt: Beides wird als 0 gemeldet.</translation>
+    </message>
 </context>
 <context>
     <name>ConnectionState</name>
@@ -348,6 +352,17 @@
         <source>Trying to connect</source>
         <translation>Verbindungsversuch läuft</translation>
     </message>
+    <message numerus="yes">
+        <source>%n error(s) snoozed, no others</source>
+        <translation>
+            <numerusform>%n Fehler zurückgestellt, sonst keine</numerusform>
+            <numerusform>%n Fehler zurückgestellt, sonst keine</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>What is snoozed may fail still; the page of the snoozes lists it.</source>
+        <translation>Zurückgestelltes kann weiter gestört sein; die Seite der Zurückstellungen führt es auf.</translation>
+    </message>
 </context>
 <context>
     <name>ErrorsPane</name>
@@ -409,6 +424,13 @@
     <message>
         <source>Export</source>
         <translation>Exportieren</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s)</source>
+        <translation>
+            <numerusform>%n Zeile</numerusform>
+            <numerusform>%n Zeilen</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -646,6 +668,14 @@
     </message>
 </context>
 <context>
+    <name>SearchField</name>
+    <message>
+        <source>%1 (Ctrl+F)</source>
+        <comment>what the field is for</comment>
+        <translation>%1 (Strg+F)</translation>
+    </message>
+</context>
+<context>
     <name>SnoozeMenu</name>
     <message>
         <source>15 minutes</source>
@@ -786,6 +816,13 @@
     <message>
         <source>Errors that are snoozed stand here until they come back.</source>
         <translation>Zurückgestellte Fehler stehen hier, bis sie wiederkommen.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n not confirmed</source>
+        <translation>
+            <numerusform>%n nicht bestätigt</numerusform>
+            <numerusform>%n nicht bestätigt</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -41,6 +41,13 @@
             <numerusform>A filter hides %n errors</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n error(s) snoozed, no others</source>
+        <translation>
+            <numerusform>%n error snoozed, no others</numerusform>
+            <numerusform>%n errors snoozed, no others</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ErrorsPane</name>
@@ -56,6 +63,16 @@
         <translation>
             <numerusform>%n error saved as %1</numerusform>
             <numerusform>%n errors saved as %1</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ExportDialog</name>
+    <message numerus="yes">
+        <source>%n row(s)</source>
+        <translation>
+            <numerusform>%n row</numerusform>
+            <numerusform>%n rows</numerusform>
         </translation>
     </message>
 </context>
@@ -132,6 +149,13 @@
         <translation>
             <numerusform>%n still failing</numerusform>
             <numerusform>%n still failing</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n not confirmed</source>
+        <translation>
+            <numerusform>%n not confirmed</numerusform>
+            <numerusform>%n not confirmed</numerusform>
         </translation>
     </message>
 </context>

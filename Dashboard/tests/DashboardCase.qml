@@ -37,6 +37,7 @@ TestCase {
         Clock.serverRate = 1;
         Clock.serverOffset = 0;
         Theme.dark = true;
+        Theme.zoom = 1;
     }
 
     function makePlugin(): FakePlugin {

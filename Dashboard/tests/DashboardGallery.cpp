@@ -137,28 +137,21 @@ void fillAndShowUsage(QQuickView &view, FakePlugin &plugin)
     QTest::keyClick(&view, Qt::Key_Return);
 }
 
-/// The button below @p item that bears @p text, or null.
-QQuickItem *findButton(QQuickItem *item, const QString &text)
+void turnTo(QQuickView &view, const char *key)
 {
-    if (item->inherits("QQuickAbstractButton") && item->property("text") == text)
-        return item;
-    for (QQuickItem *child : item->childItems()) {
-        if (QQuickItem *button = findButton(child, text))
-            return button;
-    }
-    return nullptr;
+    QMetaObject::invokeMethod(view.rootObject(), "show", Q_ARG(QString, QString::fromLatin1(key)));
 }
 
 void fillAndShowStations(QQuickView &view, FakePlugin &plugin)
 {
     fill(view, plugin);
-    QMetaObject::invokeMethod(findButton(view.rootObject(), QStringLiteral("Stations")), "clicked");
-    view.requestUpdate();
+    turnTo(view, "stations");
 }
 
-void turnTo(QQuickView &view, const char *page)
+void snoozeEverything(QQuickView &view, FakePlugin &plugin)
 {
-    view.rootObject()->setProperty("page", QString::fromLatin1(page));
+    SampleSite::fillClient(plugin);
+    view.rootObject()->setProperty("snoozes", SampleSite::snoozes(4));
 }
 
 void fillAndShowSnoozes(QQuickView &view, FakePlugin &plugin)
@@ -209,7 +202,6 @@ void fillWithThousands(QQuickView &view, FakePlugin &plugin)
 {
     fill(view, plugin);
     plugin.addCameraErrors(20000, SampleSite::now() - 100000000);
-    plugin.countErrors();
     QTest::qWait(100);
     QTest::keyClick(&view, Qt::Key_End);
 }
@@ -240,6 +232,21 @@ QList<Scene> scenes()
          .size = {1024, 640},
          .fontScale = 2,
          .act = fillAndShowStations},
+        {.name = QStringLiteral("small-large-font-german"),
+         .size = {1024, 640},
+         .language = QStringLiteral("de"),
+         .fontScale = 2,
+         .act = fillAndSelect},
+        {.name = QStringLiteral("small-large-font-german-stations"),
+         .size = {1024, 640},
+         .language = QStringLiteral("de"),
+         .fontScale = 2,
+         .act = fillAndShowStations},
+        {.name = QStringLiteral("small-large-font-german-usage"),
+         .size = {1024, 640},
+         .language = QStringLiteral("de"),
+         .fontScale = 2,
+         .act = fillAndShowUsage},
         {.name = QStringLiteral("4k"), .size = {3840, 2160}, .act = fill},
         {.name = QStringLiteral("4k-large-font"),
          .size = {3840, 2160},
@@ -247,6 +254,12 @@ QList<Scene> scenes()
          .act = fill},
         {.name = QStringLiteral("lost"), .connected = false},
         {.name = QStringLiteral("lost-light"), .dark = false, .connected = false},
+        {.name = QStringLiteral("lost-small-large-font-german"),
+         .size = {1024, 640},
+         .language = QStringLiteral("de"),
+         .fontScale = 2,
+         .connected = false},
+        {.name = QStringLiteral("all-snoozed"), .act = snoozeEverything},
         {.name = QStringLiteral("well"),
          .well = true,
          .act = [](QQuickView &, FakePlugin &plugin) { SampleSite::fillClient(plugin); }},
@@ -266,6 +279,11 @@ QList<Scene> scenes()
         {.name = QStringLiteral("hint-light"), .dark = false, .act = fillAndRestOnALongName},
         {.name = QStringLiteral("menu"), .act = fillAndOpenMenu},
         {.name = QStringLiteral("moment"), .act = fillAndAskMoment},
+        {.name = QStringLiteral("moment-small-large-font-german"),
+         .size = {1024, 640},
+         .language = QStringLiteral("de"),
+         .fontScale = 2,
+         .act = fillAndAskMoment},
         {.name = QStringLiteral("notice"), .dark = false, .act = fillAndSnooze},
         {.name = QStringLiteral("thousands"), .act = fillWithThousands},
         {.name = QStringLiteral("export"), .act = fillAndExport},

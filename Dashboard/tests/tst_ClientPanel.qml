@@ -70,6 +70,34 @@ Item {
             compare([panel.history.cpu, panel.history.memory], [[0, 1], [null, 1]]);
         }
 
+        function test_whyMemoryMayBeUnknownIsTold() {
+            const doubt = "The sample failed, or less than 1% is in use: both are reported as 0.";
+            prepare();
+            compare(inWindow("Memory of this computer: unknown").Accessible.description, "");
+            plugin.clientResourceChanged(-100, 0);
+            const meter = inWindow("Memory of this computer: unknown");
+            compare(meter.Accessible.description, doubt);
+            compare(inWindow("CPU of this computer: unknown").Accessible.description, "");
+            waitForRendering(panel);
+            mouseMove(meter, meter.width / 2, meter.height / 2);
+            tryVerify(() => tipTexts().includes(doubt));
+            mouseMove(root, root.width - 1, root.height - 1);
+        }
+
+        function test_namesFitBesideWhatIsNotKnown() {
+            prepare();
+            waitForRendering(panel);
+            panel.width = Theme.em(20.5);
+            waitForRendering(panel);
+            compare(itemsWhere(panel, item => item instanceof Text && item.truncated).length, 0);
+        }
+
+        function test_narrowItKeepsItsPeriod() {
+            prepare();
+            panel.width = Theme.em(13);
+            tryVerify(() => hasText(panel, "last 5 min"));
+        }
+
         function test_keepsFiveMinutes() {
             prepare();
             for (let i = 0; i < 310; ++i)

@@ -39,6 +39,18 @@ Item {
             compare(mark(header), "critical");
         }
 
+        function test_sinceWhenNothingIsKnownIsReadWholeInANarrowHeader() {
+            const header = make(headerComponent, { "serverConnected": false, "siteName": "Harbour",
+                                                   "connectionSince": new Date(now - hour) });
+            header.width = Theme.em(32);
+            waitForRendering(header);
+            for (const text of itemsWhere(header, item => item instanceof Text && item.visible)) {
+                verify(!text.truncated, text.text);
+                verify(text.mapToItem(header, 0, 0).y >= 0, text.text);
+                verify(text.mapToItem(header, 0, text.height).y <= header.height, text.text);
+            }
+        }
+
         function test_withoutATimeItTellsTheStateAlone() {
             const header = make(headerComponent);
             verify(hasText(header, "Nothing is known about the site"));

@@ -42,7 +42,6 @@ Item {
             plugin = makePlugin();
             plugin.addError(3, "b", "b/1", ["Quay", "Gate"], now - minute);
             plugin.addError(4, "a", "", ["Lobby"], now - hour);
-            plugin.countErrors();
             view = make(viewComponent, Object.assign({ "plugin": plugin }, properties ?? {}));
             view.forceActiveFocus();
             waitForRendering(view);
@@ -82,12 +81,11 @@ Item {
             verify(hasText(view, "2 · 1 selected"));
         }
 
-        function test_showsTheCountsOfThePlugin() {
+        function test_stationsShowTheNumbersOfTheirErrors() {
             prepare();
             verify(inWindow("Quay, Connected, 1 error(s)"));
             plugin.addError(3, "b", "b/2", ["Quay", "Pier"], now);
-            plugin.countErrors();
-            verify(inWindow("Quay, Connected, 2 error(s)"));
+            tryVerify(() => inWindow("Quay, Connected, 2 error(s)") !== null);
         }
 
         function test_tabReachesEveryControlBothWays() {
@@ -128,13 +126,25 @@ Item {
         function test_focusIsSeenOnEmptyLists() {
             prepare({ "stations": [] });
             plugin.clearErrors();
-            plugin.countErrors();
             tryCompare(pane(ErrorTable), "count", 0);
             for (const type of [ErrorTable, ThemedList]) {
                 pane(type).forceActiveFocus(Qt.TabFocusReason);
                 tryVerify(() => itemsWhere(view, mark => mark.visible
                                                          && mark instanceof FocusRing).length === 1);
             }
+        }
+
+        function test_focusIsSeenWhenErrorsComeToAnEmptyList() {
+            prepare();
+            const rings = () => itemsWhere(pane(ErrorsPane), item => item instanceof FocusRing
+                                                                     && item.visible).length;
+            plugin.clearErrors();
+            tryCompare(pane(ErrorTable), "count", 0);
+            plugin.addError(4, "a", "", ["Lobby"], now);
+            tryCompare(pane(ErrorTable), "count", 1);
+            compare(rings(), 1);
+            keyClick(Qt.Key_Down);
+            compare([rings(), pane(ErrorTable).currentIndex], [0, 0]);
         }
 
         function test_findKeyGoesToTheTextFilter() {
@@ -229,13 +239,22 @@ Item {
             tryVerify(() => inWindow("Snoozed 1") !== null);
         }
 
+        function test_aListThatSnoozesHaveEmptiedIsNotCalledWell() {
+            prepare({ "snoozes": [{ "nodeID": "b/1", "type": 3, "until": now + hour, "name": "" }] });
+            plugin.clearErrors();
+            tryVerify(() => inWindow("1 error(s) snoozed, no others") !== null);
+            view.snoozes = [];
+            tryVerify(() => inWindow("No errors") !== null);
+        }
+
         function test_snoozesMadeHereAreListed() {
             prepare();
             keyClick(Qt.Key_Home);
             pane(ErrorsPane).snoozeFor(3600);
-            plugin.removeError("3_b/1");
             tryVerify(() => inWindow("Snoozed 1") !== null);
+            plugin.removeError("3_b/1");
             click("Snoozed 1");
+            tryVerify(() => hasText(pane(SnoozedPage), "1"));
             verify(hasText(view, "asked here 14:07:33 CEST"));
         }
 
@@ -279,6 +298,28 @@ Item {
             compare(Theme.dark, false);
         }
 
+        function test_keysChangeTheSizeOfEverything() {
+            prepare();
+            const usual = Theme.em(10);
+            const tall = pane(ErrorRow).height;
+            keyClick(Qt.Key_Plus, Qt.ControlModifier);
+            verify(Theme.em(10) > usual);
+            tryVerify(() => pane(ErrorRow).height > tall);
+            compare(view.zoom, Theme.zoom);
+            keyClick(Qt.Key_Minus, Qt.ControlModifier);
+            keyClick(Qt.Key_Minus, Qt.ControlModifier);
+            verify(Theme.zoom < 1);
+            keyClick(Qt.Key_0, Qt.ControlModifier);
+            compare(Theme.em(10), usual);
+        }
+
+        function test_sizeFollowsTheHost() {
+            prepare({ "zoom": 2 });
+            compare(Theme.zoom, 2);
+            view.zoom = 1.5;
+            compare(Theme.zoom, 1.5);
+        }
+
         function test_withoutAWordFromTheHostTheColoursStay() {
             Theme.dark = false;
             prepare();
@@ -301,10 +342,18 @@ Item {
             compare(filters.active, false);
         }
 
+        function test_escapeLeavesFiltersThatAreOutOfSight() {
+            prepare();
+            const filters = pane(ErrorsPane).filters;
+            filters.categories = ErrorKinds.cameraCategory;
+            view.page = "snoozed";
+            keyClick(Qt.Key_Escape);
+            compare(filters.active, true);
+        }
+
         function test_lostServerShowsNothingGreen() {
             prepare({ "serverConnected": false });
             plugin.clearErrors();
-            plugin.countErrors();
             waitForRendering(view);
             const marks = itemsWhere(view, item => item instanceof StateMark && item.visible);
             verify(marks.length >= 4);
@@ -312,11 +361,22 @@ Item {
             verify(!hasText(view, "Connected"));
         }
 
+        function test_whatIsDoneHereIsNotGreenEither() {
+            prepare({ "serverConnected": false, "files": host, "operationalLog": journal,
+                      "page": "log" });
+            journal.add(now, "Entry", []);
+            keyClick(Qt.Key_E, Qt.ControlModifier);
+            tryVerify(() => inWindow("File")?.activeFocus ?? false);
+            keyClick(Qt.Key_Return);
+            tryVerify(() => pane(NoticeBar).visible);
+            compare(itemsWhere(view, item => item instanceof StateMark && item.visible
+                                             && item.status === "good").length, 0);
+        }
+
         function test_nothingAtTheSiteIsGreenBeforeTheStatesAreKnown() {
             prepare({ "statesSince": undefined, "connectionSince": new Date(now - hour) });
             plugin.clearErrors();
-            plugin.countErrors();
-            verify(inWindow("Quay, State unknown, 0 error(s)"));
+            tryVerify(() => inWindow("Quay, State unknown, 0 error(s)") !== null);
             tryVerify(() => inWindow("Checking the site") !== null);
             const good = () => itemsWhere(view, item => item instanceof StateMark && item.visible
                                                         && item.status === "good").length;

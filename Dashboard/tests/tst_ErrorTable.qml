@@ -111,6 +111,20 @@ Item {
             verify(rowAt(0).mapToItem(table, 0, 0).y >= 0);
         }
 
+        function test_newestErrorsStayInSightOfAListAtItsTop() {
+            prepare();
+            clickRow(0);
+            for (let i = 0; i < 40; ++i) {
+                plugin.addError(3, "s", "s/n" + i, ["Lobby", "New " + i],
+                                now + (i + 1) * second);
+            }
+            tryCompare(table, "count", 70);
+            waitForRendering(table);
+            compare(table.atYBeginning, true);
+            verify(hasText(rowAt(0), "New 39"));
+            compare(table.currentIndex, 40);
+        }
+
         function test_mouseSelects() {
             prepare();
             clickRow(2);

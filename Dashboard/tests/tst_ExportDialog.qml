@@ -68,6 +68,14 @@ Item {
             compare(inWindow("Export as CSV").Accessible.role, Accessible.Dialog);
         }
 
+        function test_tellsHowManyRowsItWillSave() {
+            prepare();
+            dialog.rowCount = 1;
+            verify(hasText(inWindow("Export as CSV"), "1 row(s)"));
+            dialog.rowCount = 12;
+            verify(hasText(inWindow("Export as CSV"), "12 row(s)"));
+        }
+
         function test_savesWhereTheUserWants() {
             prepare();
             typeOver("/tmp/x.csv");

@@ -121,6 +121,9 @@ Item {
             panel = make(panelComponent, { "surface": plugin });
             compare(panel.obstacle, "");
             compare(panel.reports.count, 7);
+            compare(panel.stale, false);
+            Clock.now = panel.reports.lastTime + 15 * second;
+            verify(hasText(panel, "No report for 15 s"));
         }
 
         function test_missingReportsAreTold() {

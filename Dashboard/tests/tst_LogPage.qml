@@ -167,6 +167,40 @@ Item {
             compare(ring.length, 1);
         }
 
+        function test_newEntriesLeaveTheReaderWhereHeIs() {
+            prepare();
+            log.addMany(100, now);
+            tryCompare(list(), "count", 103);
+            list().forceActiveFocus();
+            keyClick(Qt.Key_End);
+            const last = page.sheet.entries[102];
+            const top = list().contentY;
+            verify(top > 0);
+            log.add(now + hour, "User logged in", []);
+            tryCompare(list(), "count", 104);
+            compare(list().rows[list().currentIndex].time, last.time);
+            compare(list().contentY, top + list().rowHeight);
+        }
+
+        function test_atItsTopTheListShowsWhatIsNew() {
+            prepare();
+            log.addMany(100, now);
+            tryCompare(list(), "count", 103);
+            log.add(now + hour, "User logged in", []);
+            tryCompare(list(), "count", 104);
+            compare(list().contentY, 0);
+        }
+
+        function test_aSearchBeginsAtTheTop() {
+            prepare();
+            log.addMany(100, now);
+            tryCompare(list(), "count", 103);
+            list().contentY = 10 * list().rowHeight;
+            page.text = "Entry";
+            tryCompare(list(), "count", 100);
+            compare(list().contentY, 0);
+        }
+
         function test_onlyRowsInSightAreMade() {
             prepare();
             log.addMany(600, now);
@@ -177,12 +211,17 @@ Item {
             verify(list().contentItem.children.length < 50);
         }
 
-        function test_narrowRowsStandOnTwoLines() {
+        function test_narrowRowsHaveRoomForTheDetails() {
             prepare();
+            log.add(now, "Error snoozed", ["Camera disconnected",
+                                           "Station: Quay NVR / Camera: Stairs to the archive"]);
+            tryCompare(list(), "count", 4);
             const height = itemsWhere(page, item => item instanceof LogRow)[0].height;
             page.anchors.fill = undefined;
             page.width = Theme.em(40);
             tryVerify(() => itemsWhere(page, item => item instanceof LogRow)[0].height > height);
+            waitForRendering(page);
+            compare(itemsWhere(page, item => item instanceof LogRow && item.truncated).length, 0);
         }
     }
 }

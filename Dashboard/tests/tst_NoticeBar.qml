@@ -26,7 +26,7 @@ Item {
         function test_showsUntilItsTimeIsOver() {
             prepare();
             compare(notice.visible, false);
-            notice.show("good", "Done");
+            notice.show("done", "Done");
             compare(notice.visible, true);
             compare(texts(notice), ["Done"]);
             notice.timer.interval = 1;
@@ -35,7 +35,7 @@ Item {
 
         function test_failuresStayLonger() {
             prepare();
-            notice.show("good", "Done");
+            notice.show("done", "Done");
             const usual = notice.timer.interval;
             notice.show("critical", "Refused");
             verify(notice.timer.interval > usual);
@@ -44,7 +44,7 @@ Item {
 
         function test_staysWhileThePointerRestsOnIt() {
             prepare();
-            notice.show("good", "Done");
+            notice.show("done", "Done");
             waitForRendering(notice);
             mouseMove(notice, notice.width / 2, notice.height / 2);
             notice.timer.triggered();
@@ -56,21 +56,21 @@ Item {
 
         function test_isDismissed() {
             prepare();
-            notice.show("good", "Done");
+            notice.show("done", "Done");
             click("Dismiss the notice");
             compare(notice.visible, false);
         }
 
         function test_anEmptyTextHidesIt() {
             prepare();
-            notice.show("good", "Done");
-            notice.show("good", "");
+            notice.show("done", "Done");
+            notice.show("done", "");
             compare(notice.visible, false);
         }
 
         function test_longTextsWrap() {
             prepare();
-            notice.show("good", "A long notice ".repeat(20));
+            notice.show("done", "A long notice ".repeat(20));
             tryVerify(() => notice.height > Theme.em(3));
             verify(notice.width <= root.width);
         }

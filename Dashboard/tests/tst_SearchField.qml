@@ -43,6 +43,13 @@ Item {
             compare(field.applied, "d");
         }
 
+        function test_tellsItsKeyAndWhatItIsFor() {
+            field = make(fieldComponent, { "placeholderText": "Filter by error or device" });
+            mouseMove(field, 20, 5);
+            tryVerify(() => tipTexts().includes("Filter by error or device (Ctrl+F)"));
+            mouseMove(root, root.width - 1, root.height - 1);
+        }
+
         function test_followsItsOwner() {
             prepare();
             keyClick("d");

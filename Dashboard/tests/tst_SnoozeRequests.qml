@@ -40,7 +40,7 @@ Item {
                     "1 error(s) snoozed · Waiting for the answer to 1 snooze(s)");
             plugin.setSnoozeResponse(true);
             compare(requests.summary, "2 error(s) snoozed");
-            compare(requests.status, "good");
+            compare(requests.status, "done");
         }
 
         function test_refusalsAreTold() {

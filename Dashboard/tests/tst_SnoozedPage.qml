@@ -89,6 +89,7 @@ Item {
                       (now + hour) / 1000);
             tryVerify(() => inWindow("Not confirmed: Door 1, Camera disconnected, Lobby, waiting,"
                                      + " until 15:07:33 CEST, asked here 14:07:33 CEST"));
+            verify(hasText(page, "1 · 1 not confirmed"));
         }
 
         function test_whatStillFailsIsMarked() {
@@ -99,7 +100,7 @@ Item {
             Clock.now = now + 3 * minute;
             tryVerify(() => hasText(page, "over for 3 min"));
             verify(hasText(page, "Still failing"));
-            verify(hasText(page, "0 · 1 still failing"));
+            verify(hasText(page, "1 · 1 still failing"));
             const marks = itemsWhere(page, item => item instanceof StateMark && item.visible);
             compare(marks.map(mark => mark.status), ["critical"]);
         }
@@ -150,7 +151,11 @@ Item {
             verify(hasText(page, "Camera disconnected"));
             page.anchors.fill = undefined;
             page.width = Theme.em(50);
-            tryVerify(() => hasText(page, "Lobby · Camera disconnected"));
+            const row = itemsWhere(page, item => item instanceof SnoozedRow)[0];
+            tryVerify(() => row.narrow);
+            verify(hasText(row, "Lobby"));
+            verify(hasText(row, "Camera disconnected"));
+            tryCompare(row, "truncated", false);
         }
 
         function test_onlyRowsInSightAreMade() {
@@ -163,6 +168,19 @@ Item {
             keyClick(Qt.Key_End);
             compare(list.currentIndex, 4999);
             verify(list.contentItem.children.length < 50);
+        }
+
+        function test_theKeyboardStaysOnItsSnooze() {
+            prepare([snooze("st1/c1", 3, now + hour), snooze("st1/c2", 3, now + 3 * hour)]);
+            const list = itemsWhere(page, item => item instanceof ThemedList)[0];
+            list.forceActiveFocus();
+            keyClick(Qt.Key_End);
+            book.serverList = book.serverList.concat([snooze("st1/c3", 3, now + 2 * hour)]);
+            tryCompare(list, "count", 3);
+            compare(list.rows[list.currentIndex].nodeID, "st1/c2");
+            book.serverList = [snooze("st1/c2", 3, now + minute), snooze("st1/c3", 3, now + hour)];
+            tryVerify(() => list.rows[0].nodeID === "st1/c2");
+            compare(list.currentIndex, 0);
         }
 
         function test_theListStaysWhereItIsWhenASnoozeComes() {

@@ -65,6 +65,7 @@ Item {
         function cleanup() {
             answers.serverConnected = false;
             answers.surface = null;
+            crowd.errorCounts = [];
             pane = null;
         }
 
@@ -115,6 +116,36 @@ Item {
             compare(plugin.calls, []);
             answers.serverConnected = true;
             compare(plugin.calls.length, 2);
+        }
+
+        function test_stateAndSupportOfASubStationAreReadWhole_data() {
+            return [{ "tag": "narrowest", "ems": 19, "depth": 1, "lines": 1 },
+                    { "tag": "deep", "ems": 21.5, "depth": 6, "lines": 2 },
+                    { "tag": "wide", "ems": 40, "depth": 2, "lines": 1 }];
+        }
+
+        function test_stateAndSupportOfASubStationAreReadWhole(data) {
+            const chain = [];
+            for (let i = 0; i <= data.depth; ++i) {
+                chain.push({ "stationID": "s" + i, "name": "s" + i, "parentID": "s" + (i - 1),
+                             "connected": i < data.depth });
+            }
+            const last = "s" + data.depth;
+            crowd.stations = chain;
+            crowd.errorCounts = [{ "stationID": last, "errorNumber": 2000 }];
+            prepare({ "directory": crowd });
+            pane.anchors.fill = undefined;
+            pane.width = Theme.em(data.ems);
+            plugin.isSupportSystemMonitor(last, false);
+            compare(row(last).detail, "Disconnected · unmonitored");
+            waitForRendering(pane);
+            compare(row(last).truncated, false);
+            const detail = itemsWhere(row(last), item => item.text === row(last).detail)[0];
+            compare(detail.lineCount, data.lines);
+            for (const text of itemsWhere(row(last), item => item instanceof Text && item.visible)) {
+                verify(text.mapToItem(row(last), 0, 0).y >= 0, text.text);
+                verify(text.mapToItem(row(last), 0, text.height).y <= row(last).height, text.text);
+            }
         }
 
         function test_clickChooses() {

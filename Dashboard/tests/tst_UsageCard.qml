@@ -74,6 +74,15 @@ Item {
             verify(hasText(card, "0%"));
         }
 
+        function test_aFailedSampleIsUnknownAndNeverANumber() {
+            const card = make(cardComponent, { "usageListRole": history(57, -100), "reported": 2 });
+            compare(texts(card), ["CPU usage", "unknown", "threshold 90%"]);
+            compare(card.Accessible.name, "CPU usage: not known");
+            verify(!hasWarning(card));
+            card.usageListRole = history(57, -100, 58);
+            compare(texts(card), ["CPU usage", "58%", "threshold 90%"]);
+        }
+
         function test_networkTellsInterfaceAndBandwidth() {
             const card = make(cardComponent, { "typeRole": 2, "titleRole": "Network usage",
                                                "subtitleRole": "eth0", "thresholdRole": 50,

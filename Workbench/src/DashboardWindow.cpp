@@ -93,6 +93,8 @@ DashboardWindow::DashboardWindow(QQmlEngine &engine, QObject &plugin, const QStr
     rootObject()->setProperty("clipboard", QVariant::fromValue<QObject *>(&m_clipboard));
     QQmlProperty(rootObject(), QStringLiteral("dark"))
         .connectNotifySignal(this, SLOT(announceDark()));
+    QQmlProperty(rootObject(), QStringLiteral("zoom"))
+        .connectNotifySignal(this, SLOT(announceZoom()));
 }
 
 void DashboardWindow::setConnection(bool isConnected, const QDateTime &since)
@@ -134,6 +136,11 @@ void DashboardWindow::setDark(bool isDark)
     rootObject()->setProperty("dark", isDark);
 }
 
+void DashboardWindow::setZoom(double zoom)
+{
+    rootObject()->setProperty("zoom", zoom);
+}
+
 void DashboardWindow::setOperationalLog(QObject &log)
 {
     rootObject()->setProperty("operationalLog", QVariant::fromValue(&log));
@@ -142,6 +149,11 @@ void DashboardWindow::setOperationalLog(QObject &log)
 void DashboardWindow::announceDark()
 {
     Q_EMIT darkChanged(rootObject()->property("dark").toBool());
+}
+
+void DashboardWindow::announceZoom()
+{
+    Q_EMIT zoomChanged(rootObject()->property("zoom").toDouble());
 }
 
 void DashboardWindow::setFiles(QObject &files)

@@ -56,6 +56,9 @@ public:
     /// Chooses dark or light colours.
     void setDark(bool isDark);
 
+    /// Chooses how many times as large as usual everything is shown.
+    void setZoom(double zoom);
+
     /// Hands the dashboard what writes its files; the object must outlive the window.
     void setFiles(QObject &files);
 
@@ -69,9 +72,12 @@ public:
 Q_SIGNALS:
     /// The user chose other colours.
     void darkChanged(bool isDark);
+    /// The user chose another size.
+    void zoomChanged(double zoom);
 
 private Q_SLOTS:
     void announceDark();
+    void announceZoom();
 
 private:
     SystemClipboard m_clipboard;

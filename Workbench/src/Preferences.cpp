@@ -9,6 +9,7 @@
 namespace {
 
 const QString KeyDark = QStringLiteral("dashboard/dark");
+const QString KeyZoom = QStringLiteral("dashboard/zoom");
 
 } // namespace
 
@@ -24,18 +25,38 @@ QString Preferences::usualFile()
 
 bool Preferences::isDark() const
 {
-    // A file that was damaged is as good as none.
-    return m_fileName.isEmpty()
-           || QSettings(m_fileName, QSettings::IniFormat).value(KeyDark).toString()
-                  != QStringLiteral("false");
+    return value(KeyDark).toString() != QStringLiteral("false");
 }
 
 void Preferences::setDark(bool isDark)
 {
+    keep(KeyDark, isDark);
+}
+
+double Preferences::zoom() const
+{
+    const double zoom = value(KeyZoom).toDouble();
+    return zoom > 0 ? zoom : 1;
+}
+
+void Preferences::setZoom(double zoom)
+{
+    keep(KeyZoom, zoom);
+}
+
+// A file that was damaged is as good as none.
+QVariant Preferences::value(const QString &key) const
+{
+    return m_fileName.isEmpty() ? QVariant()
+                                : QSettings(m_fileName, QSettings::IniFormat).value(key);
+}
+
+void Preferences::keep(const QString &key, const QVariant &value)
+{
     if (m_fileName.isEmpty())
         return;
     QSettings settings(m_fileName, QSettings::IniFormat);
-    settings.setValue(KeyDark, isDark);
+    settings.setValue(key, value);
     settings.sync();
     if (settings.status() != QSettings::NoError)
         qWarning().noquote() << tr("%1 cannot be written").arg(m_fileName);

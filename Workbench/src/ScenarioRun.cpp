@@ -133,6 +133,9 @@ int ScenarioRun::playWithDashboard()
     window.setDark(preferences.isDark());
     QObject::connect(&window, &DashboardWindow::darkChanged,
                      [&preferences](bool isDark) { preferences.setDark(isDark); });
+    window.setZoom(preferences.zoom());
+    QObject::connect(&window, &DashboardWindow::zoomChanged,
+                     [&preferences](double zoom) { preferences.setZoom(zoom); });
     Screenshot picture(window, m_options.screenshotFile);
     Screenshot *const screenshot = m_options.screenshotFile.isEmpty() ? nullptr : &picture;
     if (!m_options.isHeadless)

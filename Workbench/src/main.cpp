@@ -140,6 +140,7 @@ int replay(const Options &options, Catalogues &catalogues)
         window = std::make_unique<DashboardWindow>(*engine, *host.plugin(), journal.fileName, page);
         feed = std::make_unique<ReplayFeed>(player, *window);
         window->setDark(preferences.isDark());
+        window->setZoom(preferences.zoom());
         window->show();
     }
     StandardOutput out;

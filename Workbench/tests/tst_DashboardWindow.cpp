@@ -37,6 +37,7 @@ private Q_SLOTS:
     void handsOverTheClipboard();
     void handsOverWhatReadsTheLog();
     void coloursAreSetAndHeardOf();
+    void sizeIsSetAndHeardOf();
     void savesWhatIsShown();
     void tellsWhenThePictureCannotBeWritten();
     void pagesAreFiles();
@@ -145,6 +146,18 @@ void tst_DashboardWindow::coloursAreSetAndHeardOf()
     QCOMPARE(window.rootObject()->property("dark").toBool(), false);
     window.rootObject()->setProperty("dark", true);
     QCOMPARE(changes, QList<QVariantList>({{false}, {true}}));
+}
+
+void tst_DashboardWindow::sizeIsSetAndHeardOf()
+{
+    QQmlEngine engine;
+    QObject plugin;
+    DashboardWindow window(engine, plugin, {}, testFile(QStringLiteral("Dashboard.qml")));
+    const QSignalSpy changes(&window, &DashboardWindow::zoomChanged);
+    window.setZoom(2);
+    QCOMPARE(window.rootObject()->property("zoom").toDouble(), 2.0);
+    window.rootObject()->setProperty("zoom", 1.5);
+    QCOMPARE(changes, QList<QVariantList>({{2.0}, {1.5}}));
 }
 
 void tst_DashboardWindow::handsOverWhatWritesFiles()

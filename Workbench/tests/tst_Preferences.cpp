@@ -16,6 +16,7 @@ private Q_SLOTS:
 
     void coloursAreDarkAtFirst();
     void choiceIsKeptForLater();
+    void sizeIsUsualAtFirstAndKeptForLater();
     void withoutAFileNothingIsKept();
     void brokenFileCountsAsNone();
     void fileThatCannotBeWrittenIsNamed();
@@ -39,17 +40,31 @@ void tst_Preferences::choiceIsKeptForLater()
     QCOMPARE(Preferences(file).isDark(), true);
 }
 
+void tst_Preferences::sizeIsUsualAtFirstAndKeptForLater()
+{
+    const QTemporaryDir directory;
+    const QString file = directory.filePath(QStringLiteral("settings.ini"));
+    QCOMPARE(Preferences(file).zoom(), 1.0);
+    Preferences(file).setZoom(1.75);
+    Preferences(file).setDark(false);
+    QCOMPARE(Preferences(file).zoom(), 1.75);
+}
+
 void tst_Preferences::withoutAFileNothingIsKept()
 {
     Preferences preferences{QString()};
     preferences.setDark(false);
+    preferences.setZoom(2);
     QCOMPARE(preferences.isDark(), true);
+    QCOMPARE(preferences.zoom(), 1.0);
 }
 
 void tst_Preferences::brokenFileCountsAsNone()
 {
     const TextFile file("no settings\n[dashboard\ndark=");
     QCOMPARE(Preferences(file.path()).isDark(), true);
+    const TextFile strange("[dashboard]\nzoom=-2\n");
+    QCOMPARE(Preferences(strange.path()).zoom(), 1.0);
 }
 
 void tst_Preferences::fileThatCannotBeWrittenIsNamed()

@@ -112,11 +112,6 @@ void FakePlugin::setFocusStationResource(const QString &stationId)
     Q_EMIT focusStationResourceChanged(stationId);
 }
 
-QVariantList FakePlugin::stationErrorList() const
-{
-    return stationErrors;
-}
-
 void FakePlugin::addError(int type, const QString &stationID, const QString &deviceID,
                           const QStringList &names, qint64 timestamp)
 {
@@ -168,19 +163,6 @@ void FakePlugin::setTimestamp(const QString &uniqueID, qint64 timestamp)
 {
     if (QStandardItem *item = findError(uniqueID))
         item->setData(timestamp, TimestampRole);
-}
-
-void FakePlugin::countErrors()
-{
-    QMap<QString, int> counts;
-    for (int row = 0; row < errors.rowCount(); ++row)
-        ++counts[errors.item(row)->data(StationIDRole).toString()];
-    stationErrors.clear();
-    for (auto it = counts.cbegin(); it != counts.cend(); ++it) {
-        stationErrors.append(QVariantMap{{QStringLiteral("stationID"), it.key()},
-                                         {QStringLiteral("errorNumber"), it.value()}});
-    }
-    Q_EMIT stationErrorListChanged();
 }
 
 void FakePlugin::report(int cpu, int memory, const QVariantList &networks)

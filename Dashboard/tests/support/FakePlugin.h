@@ -11,7 +11,6 @@ class FakePlugin : public QObject
     Q_OBJECT
     Q_PROPERTY(QString focusStationResource READ focusStationResource WRITE setFocusStationResource
                    NOTIFY focusStationResourceChanged)
-    Q_PROPERTY(QVariantList stationErrorList READ stationErrorList NOTIFY stationErrorListChanged)
 
     /// The calls that the dashboard made, one text each, in order: "setSnooze st1/cam7 1700000000
     /// 3".
@@ -53,7 +52,6 @@ public:
 
     QString focusStationResource() const;
     void setFocusStationResource(const QString &stationId);
-    QVariantList stationErrorList() const;
 
     // What tests do to it.
 
@@ -68,8 +66,6 @@ public:
     Q_INVOKABLE void removeError(const QString &uniqueID);
     Q_INVOKABLE void clearErrors();
     Q_INVOKABLE void setTimestamp(const QString &uniqueID, qint64 timestamp);
-    /// Recounts the errors of each station and announces the result.
-    Q_INVOKABLE void countErrors();
     /// A report of the station in focus; @p networks as in the server's event.
     Q_INVOKABLE void report(int cpu, int memory, const QVariantList &networks);
 
@@ -79,7 +75,6 @@ public:
 Q_SIGNALS:
     void systemResourceChanged(int cpu, int memory, QVariantList networkList);
     void focusStationResourceChanged(QString focusStationResource);
-    void stationErrorListChanged();
     void isSupportSystemMonitor(QString stationId, bool isSupport);
     void clientResourceChanged(int cpu, int memory);
     void notifySystemResourceUpdated();
@@ -98,7 +93,6 @@ private:
     QStandardItemModel errors;
     QStandardItemModel usage;
     QString focusStation;
-    QVariantList stationErrors;
     QStringList recordedCalls;
     bool accepting = true;
 };

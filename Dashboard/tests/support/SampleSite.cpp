@@ -87,9 +87,9 @@ void fillErrors(FakePlugin &plugin)
     plugin.addError(2, QStringLiteral("quay"), QStringLiteral("eth1"), {quay}, now() - 80 * Second);
     plugin.addError(1, QStringLiteral("lobby"), QString(), {lobby}, now() - 44 * Second);
     camera(QStringLiteral("quay"), quay, QStringLiteral("Gate B, licence plates"), 9 * Second);
-    plugin.countErrors();
     Q_EMIT plugin.isSupportSystemMonitor(QStringLiteral("lobby"), true);
     Q_EMIT plugin.isSupportSystemMonitor(QStringLiteral("quay"), true);
+    Q_EMIT plugin.isSupportSystemMonitor(QStringLiteral("quay/crane"), true);
     Q_EMIT plugin.isSupportSystemMonitor(QStringLiteral("archive"), false);
 }
 

@@ -15,6 +15,7 @@ Item {
     property var stations: []
     property var snoozes
     property bool dark: true
+    property real zoom: 1
     property QtObject files: null
     property QtObject clipboard: null
     property QtObject operationalLog: null
