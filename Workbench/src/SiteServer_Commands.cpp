@@ -8,17 +8,20 @@
 std::vector<CommandResult> SiteServer::executeAll(const std::vector<SiteCommand> &commands)
 {
     std::vector<CommandResult> results;
-    for (auto next = commands.begin(); next != commands.end();) {
-        QVariantList snoozes;
-        for (; next != commands.end() && next->name == ServerNames::SetSnooze; ++next)
-            snoozes.append(next->data);
-        for (CommandResult &result : snooze(snoozes))
+    QVariantList snoozes; // that follow one another, and are set at once
+    const auto setSnoozes = [&] {
+        for (CommandResult &result : snooze(std::exchange(snoozes, {})))
             results.push_back(std::move(result));
-        if (next != commands.end()) {
-            results.push_back(execute(next->name, next->data, next->target));
-            ++next;
+    };
+    for (const SiteCommand &command : commands) {
+        if (command.name == ServerNames::SetSnooze) {
+            snoozes.append(command.data);
+            continue;
         }
+        setSnoozes();
+        results.push_back(execute(command.name, command.data, command.target));
     }
+    setSnoozes();
     return results;
 }
 

@@ -16,9 +16,9 @@ constexpr double MaxRate = 100'000;
 constexpr double LeastFlapSeconds = 0.1;
 constexpr double MaxChanges = 10'000'000;
 
-const QString StationKey = QStringLiteral("station");
-const QString SecondsKey = QStringLiteral("seconds");
-const QString RateKey = QStringLiteral("rate");
+constexpr QLatin1String StationKey("station");
+constexpr QLatin1String SecondsKey("seconds");
+constexpr QLatin1String RateKey("rate");
 
 class Reader
 {
@@ -40,9 +40,11 @@ StormChange Reader::change(JsonObject &event)
     };
     const QString key = QStringLiteral("change");
     const QString change = event.text(key);
-    if (!changes.contains(change))
-        ScenarioValues::fail(
-            event, key, tr("one of %1").arg(changes.keys().join(QStringLiteral(", "))), change);
+    if (!changes.contains(change)) {
+        const QStringList names(changes.keyBegin(), changes.keyEnd());
+        ScenarioValues::fail(event, key, tr("one of %1").arg(names.join(QStringLiteral(", "))),
+                             change);
+    }
     return changes.value(change);
 }
 
