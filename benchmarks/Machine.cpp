@@ -1,26 +1,10 @@
 #include "Machine.h"
 
+#include "ProcessorName.h"
+
 #include <QDateTime>
-#include <QFile>
 #include <QSysInfo>
 #include <QThread>
-
-namespace {
-
-QString processorName()
-{
-    QFile file(QStringLiteral("/proc/cpuinfo"));
-    if (file.open(QIODevice::ReadOnly)) {
-        const QList<QByteArray> lines = file.readAll().split('\n');
-        for (const QByteArray &line : lines) {
-            if (line.startsWith("model name"))
-                return QString::fromUtf8(line.mid(line.indexOf(':') + 1)).simplified();
-        }
-    }
-    return QSysInfo::currentCpuArchitecture();
-}
-
-} // namespace
 
 QString describeRun()
 {

@@ -1,4 +1,5 @@
 #include "BareErrorList.h"
+#include "MemoryUse.h"
 #include "Options.h"
 #include "Outage.h"
 #include "Progress.h"
@@ -7,8 +8,6 @@
 #include "Table.h"
 #include "Verify.h"
 
-#include <malloc.h>
-
 namespace {
 
 constexpr int Errors = 20'000;
@@ -16,8 +15,7 @@ constexpr int Errors = 20'000;
 // What the program has allocated and not freed.
 double bytesInUse()
 {
-    const struct mallinfo2 info = mallinfo2();
-    return static_cast<double>(info.uordblks + info.hblkhd);
+    return static_cast<double>(MemoryUse::now().allocated);
 }
 
 double bytesPerError(const QString &pluginFile)
@@ -49,6 +47,8 @@ double bytesPerBareRow(const QString &pluginFile)
 
 QString measureMemory(const Options &options)
 {
+    if (!MemoryUse::isMeaningful())
+        return QStringLiteral("## Memory\n\nThis system or build does not tell.\n");
     progress(QStringLiteral("memory"));
     Table table({QString(), QStringLiteral("bytes for each error")}, 1);
     table.add(

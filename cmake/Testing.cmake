@@ -1,5 +1,13 @@
 enable_testing()
 
+# The suffix of the files that tests and benchmarks take for what depends on the system and may be
+# missing.
+if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
+    set(PLATFORM_VARIANT Linux)
+else()
+    set(PLATFORM_VARIANT None)
+endif()
+
 # What every test runs under: no display, one time zone with summer time, the neutral locale.
 set(SYSTEM_MONITOR_TEST_ENVIRONMENT
     "QT_QPA_PLATFORM=offscreen"

@@ -4,33 +4,59 @@
 #include "SystemResourceModelControl.h"
 #include "TestedPlugin.h"
 
-#include <QSet>
-
 #include <memory>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
+QList<int> rowsOf(const QList<QStandardItem *> &items)
+{
+    QList<int> rows;
+    for (const QStandardItem *item : items)
+        rows.append(item->row());
+    return rows;
+}
+
 void requireErrors(TestedPlugin &plugin)
 {
     const SystemErrorModel &errors = *plugin.errorModel;
     QSet<QString> keys;
-    QMap<QString, int> counts;
+    QMap<QString, QList<int>> stations;
+    QMap<QString, QList<int>> devices;
     for (int row = 0; row < errors.rowCount(); ++row) {
         const QModelIndex error = errors.index(row, 0);
         const QString key = error.data(SystemErrorModel::UniqueIDRole).toString();
         require(!keys.contains(key), "no key is listed twice");
         require(plugin.indexMap.find(key) == error, "every row is found by its key");
         keys.insert(key);
-        ++counts[error.data(SystemErrorModel::StationIDRole).toString()];
+        stations[error.data(SystemErrorModel::StationIDRole).toString()].append(row);
+        devices[error.data(SystemErrorModel::DeviceIDRole).toString()].append(row);
     }
 
-    plugin.invoke("updateStationErrorNumber");
     QVariantList expected;
-    for (auto it = counts.cbegin(); it != counts.cend(); ++it)
-        expected.append(QVariantMap{{u"stationID"_s, it.key()}, {u"errorNumber"_s, it.value()}});
+    for (auto it = stations.cbegin(); it != stations.cend(); ++it) {
+        require(rowsOf(plugin.indexMap.rowsOfStation(it.key())) == it.value(),
+                "the rows of a station are found, and no others");
+        expected.append(QVariantMap{{u"stationID"_s, it.key()},
+                                    {u"errorNumber"_s, static_cast<int>(it.value().size())}});
+    }
+    for (auto it = devices.cbegin(); it != devices.cend(); ++it)
+        require(rowsOf(plugin.indexMap.rowsOfDevice(it.key())) == it.value(),
+                "the rows of a device are found, and no others");
+    require(plugin.indexMap.rowsOfStationsStartingWith(QString()).size() == errors.rowCount(),
+            "every row is filed under a station");
+
+    plugin.invoke("updateStationErrorNumber");
     require(plugin.stationErrorList() == expected, "the counts are those of the rows");
+}
+
+bool isListed(const QAbstractItemModel &errors, const QString &key)
+{
+    return !errors
+                .match(errors.index(0, 0), SystemErrorModel::UniqueIDRole, key, 1,
+                       Qt::MatchFixedString | Qt::MatchCaseSensitive)
+                .isEmpty();
 }
 
 void requireView(TestedPlugin &plugin)
@@ -61,4 +87,28 @@ void requireConsistency(TestedPlugin &plugin)
     requireErrors(plugin);
     requireView(plugin);
     requireResources(*plugin.resourceModelControl->model());
+}
+
+LeftKeys::LeftKeys(TestedPlugin &plugin)
+    : m_plugin(plugin)
+{
+    const QAbstractItemModel *const errors = plugin.errorModel;
+    const auto remember = [this, errors](const QModelIndex &parent, int first, int last) {
+        for (int row = first; row <= last; ++row) {
+            const QModelIndex error = errors->index(row, 0, parent);
+            m_keys.insert(error.data(SystemErrorModel::UniqueIDRole).toString());
+        }
+    };
+    QObject::connect(errors, &QAbstractItemModel::rowsAboutToBeRemoved, &m_receiver, remember);
+}
+
+void LeftKeys::requireForgotten() const
+{
+    for (const QString &key : m_keys) {
+        const QModelIndex found = m_plugin.indexMap.find(key);
+        require(!found.isValid() || found.data(SystemErrorModel::UniqueIDRole) == key,
+                "a key finds its own row or none");
+        require(found.isValid() == isListed(*m_plugin.errorModel, key),
+                "a key that has left finds nothing");
+    }
 }

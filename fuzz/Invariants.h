@@ -1,6 +1,10 @@
 #ifndef INVARIANTS_H
 #define INVARIANTS_H
 
+#include <QObject>
+#include <QSet>
+#include <QString>
+
 class TestedPlugin;
 
 /// Ends the process with a message when something that always holds does not. A fuzzer takes that
@@ -8,8 +12,24 @@ class TestedPlugin;
 void require(bool holds, const char *what);
 
 /// Requires what holds of a plug-in whose lists nobody else changes: no key is listed twice, every
-/// row is found by its key, the counts are those of the rows, a view shows them all, the resource
-/// rows begin with their three base rows and have full histories.
+/// row is found by its key, its station and its device and by no other, the counts are those of the
+/// rows, a view shows them all, the resource rows begin with their three base rows and have full
+/// histories.
 void requireConsistency(TestedPlugin &plugin);
+
+/// Remembers the keys of all rows that leave the error list of a plug-in, not owned.
+class LeftKeys
+{
+public:
+    explicit LeftKeys(TestedPlugin &plugin);
+
+    /// Requires that each of them finds a row again or nothing.
+    void requireForgotten() const;
+
+private:
+    TestedPlugin &m_plugin;
+    QSet<QString> m_keys;
+    QObject m_receiver;
+};
 
 #endif

@@ -5,8 +5,8 @@
 #include "PluginSystemMonitorCommon.h"
 #include "SystemErrorModel.h"
 
-// Responses to commands: their names, data and result codes. Every question has one answer, so that
-// the sanitizers tell when a context is freed twice or not at all.
+// Responses to commands: their names, data and result codes. Every question has one answer, which
+// frees the question's context.
 
 using namespace Qt::Literals::StringLiterals;
 using namespace PluginSystemMonitorCommon;
@@ -31,14 +31,31 @@ QVariant responseData(FuzzInput &input, const QString &command)
     return snooze;
 }
 
+/// How many texts share the memory of this one; an empty one has none.
+int sharers(QString &text)
+{
+    const auto *const memory = text.data_ptr().d_ptr();
+    return memory ? memory->ref_.loadRelaxed() : 0;
+}
+
 void answerQuestion(HostedPlugin &hosted, FuzzInput &input)
 {
     hosted.host.acceptsCommands = input.flag();
-    hosted.plugin.checkSupportSystemMonitor(input.id());
+    // The context shares the memory of what was asked, which therefore counts it.
+    QString id = input.id();
+    id.detach();
+    const int without = sharers(id);
+    hosted.plugin.checkSupportSystemMonitor(id);
     void *const context = hosted.host.commands().last().context;
+    hosted.host.forgetCommands();
+    const int open = id.isEmpty() ? 0 : without + 1;
+    require(sharers(id) == open, "a question has one context");
     // Other answers leave the context alone, whatever they carry.
     hosted.respond(METHOD_SET_SNOOZE, {}, u"0"_s, context);
+    hosted.respond(METHOD_GET_SNOOZE_LIST, {}, u"0"_s, context);
+    require(sharers(id) == open, "a context stays until its answer comes");
     hosted.respond(u"isSupportSystemMonitor"_s, input.value(), resultCode(input), context);
+    require(sharers(id) == without, "an answer frees its context once");
 }
 
 void respond(HostedPlugin &hosted, FuzzInput &input)
@@ -60,6 +77,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
 {
     FuzzInput input(data, size);
     HostedPlugin hosted;
+    const LeftKeys leftKeys(hosted.plugin);
     while (!input.isEmpty()) {
         switch (input.below(6)) {
         case 0:
@@ -80,5 +98,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
         }
     }
     requireConsistency(hosted.plugin);
+    leftKeys.requireForgotten();
     return 0;
 }

@@ -90,6 +90,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
 {
     FuzzInput input(data, size);
     HostedPlugin hosted;
+    const LeftKeys leftKeys(hosted.plugin);
     hosted.plugin.setFocusStationResource(u"st1"_s);
     while (!input.isEmpty()) {
         switch (input.below(8)) {
@@ -107,5 +108,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
         }
     }
     requireConsistency(hosted.plugin);
+    leftKeys.requireForgotten();
     return 0;
 }

@@ -2,6 +2,7 @@
 #include "InputError.h"
 #include "Invariants.h"
 #include "ServerMessages.h"
+#include "SiteInvariants.h"
 
 #include <optional>
 
@@ -24,23 +25,6 @@ std::optional<AnyServerMessage> read(const QString &text)
 QString textOf(const AnyServerMessage &message)
 {
     return std::visit([](const auto &one) { return toText(one); }, message);
-}
-
-/// Every node is found by its id and hangs below the one that its id names.
-void requireTree(const Site &site)
-{
-    int cameras = 0;
-    site.forEachStation([&](const Station &station) {
-        require(site.findStation(station.id) == &station, "a station is found by its id");
-        for (const Camera &camera : station.cameras) {
-            require(site.findCamera(camera.id) == &camera, "a camera is found by its id");
-            require(parentNodeId(camera.id) == station.id, "an id names the node above");
-        }
-        for (const Station &below : station.stations)
-            require(parentNodeId(below.id) == station.id, "an id names the node above");
-        cameras += static_cast<int>(station.cameras.size());
-    });
-    require(cameras == site.cameraCount(), "every camera is counted once");
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 #include "FuzzTarget.h"
 #include "HostedPlugin.h"
 #include "Invariants.h"
+#include "SystemErrorModel.h"
 #include "TopologyRoles.h"
 
 // Topologies of any shape, with any values under the roles that the walk reads, changed between the
@@ -66,19 +67,93 @@ void requireNames(HostedPlugin &hosted, const QString &id)
     require(hosted.plugin.findDeviceName(id) == name, "a name is what a search finds");
 }
 
+/// The walk's rules, written down once more: literal, on a plain list of keys.
+class ExpectedWalk
+{
+public:
+    explicit ExpectedWalk(const HostedPlugin &hosted)
+        : m_snoozed(hosted.plugin.snoozedDeviceList)
+    {
+        const SystemErrorModel &errors = *hosted.plugin.errorModel;
+        for (int row = 0; row < errors.rowCount(); ++row) {
+            const QModelIndex error = errors.index(row, 0);
+            m_errors.append({error.data(SystemErrorModel::UniqueIDRole).toString(),
+                             error.data(SystemErrorModel::StationIDRole).toString()});
+        }
+        if (hosted.topologyModel.rowCount() > 0)
+            walk(*hosted.topologyModel.top());
+    }
+
+    QStringList keys() const
+    {
+        QStringList keys;
+        for (const Error &error : m_errors)
+            keys.append(error.key);
+        return keys;
+    }
+
+private:
+    struct Error
+    {
+        QString key;
+        QString stationID;
+    };
+
+    void walk(const QStandardItem &parent)
+    {
+        for (int row = 0; row < parent.rowCount(); ++row) {
+            const QStandardItem &node = *parent.child(row);
+            const int type = node.data(Topology::NodeTypeRole).toInt();
+            const QString id = node.data(Topology::NodeIdRole).toString();
+            const bool isConnected = node.data(Topology::ConnectedRole).toBool();
+            if (type == Topology::CameraNode)
+                reconcile({u"3_"_s + id, id.left(qMax(0, id.lastIndexOf(u'/')))}, id, isConnected);
+            if (type != Topology::StationNode)
+                continue;
+            if (!isConnected && !lists(u"4_"_s + id))
+                m_errors.removeIf(
+                    [&id](const Error &error) { return error.stationID.left(id.size()) == id; });
+            reconcile({u"4_"_s + id, id}, id, isConnected);
+            walk(node);
+        }
+    }
+
+    void reconcile(const Error &error, const QString &id, bool isConnected)
+    {
+        if (isConnected)
+            m_errors.removeIf([&error](const Error &listed) { return listed.key == error.key; });
+        else if (!lists(error.key) && !m_snoozed.contains(id))
+            m_errors.append(error);
+    }
+
+    bool lists(const QString &key) const { return keys().contains(key); }
+
+    QStringList m_snoozed;
+    QList<Error> m_errors;
+};
+
+void requireWalk(HostedPlugin &hosted)
+{
+    const ExpectedWalk expected(hosted);
+    hosted.plugin.initNodeStatusError();
+    require(hosted.errorKeys() == expected.keys(),
+            "a walk lists each disconnected node that is not snoozed once, and no connected one");
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     FuzzInput input(data, size);
     HostedPlugin hosted;
+    const LeftKeys leftKeys(hosted.plugin);
     while (!input.isEmpty()) {
         if (hosted.topologyModel.rowCount() == 0)
             hosted.topologyModel.appendRow(new QStandardItem);
         QStandardItem *const node = someNode(hosted.topologyModel.top(), input);
         switch (input.below(10)) {
         case 0:
-            hosted.plugin.initNodeStatusError();
+            requireWalk(hosted);
             break;
         case 1:
             node->removeRows(0, input.below(node->rowCount() + 1));
@@ -100,10 +175,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
             addNode(node, input);
         }
     }
-    hosted.plugin.initNodeStatusError();
+    requireWalk(hosted);
     requireConsistency(hosted.plugin);
     hosted.topologyModel.clear();
-    hosted.plugin.initNodeStatusError();
+    requireWalk(hosted);
     requireConsistency(hosted.plugin);
+    leftKeys.requireForgotten();
     return 0;
 }

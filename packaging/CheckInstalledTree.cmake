@@ -11,6 +11,7 @@ endfunction()
 file(REMOVE_RECURSE "${PREFIX}" "${CONSUMER_BUILD}")
 run("${CMAKE_COMMAND}" --install "${BUILD}" --prefix "${PREFIX}")
 run("${PREFIX}/bin/workbench" --headless --ignore-errors --speed 1000)
-run("${CMAKE_COMMAND}" -S "${CONSUMER}" -B "${CONSUMER_BUILD}" -G Ninja "-DCMAKE_PREFIX_PATH=${PREFIX}")
+run("${CMAKE_COMMAND}" -S "${CONSUMER}" -B "${CONSUMER_BUILD}" -G Ninja
+    "-DCMAKE_PREFIX_PATH=${PREFIX}" "-DCMAKE_CXX_COMPILER=${COMPILER}" "-DCMAKE_CXX_FLAGS=${FLAGS}")
 run("${CMAKE_COMMAND}" --build "${CONSUMER_BUILD}")
 run("${CONSUMER_BUILD}/consumer" "${PREFIX}/${PLUGIN}" "${PREFIX}/${QML}")

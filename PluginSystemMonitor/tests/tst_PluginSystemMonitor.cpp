@@ -25,6 +25,7 @@ private Q_SLOTS:
     void initialisationTellsNameAndId();
     void initialisationCallsTheVirtualInit();
     void initialisationKeepsHandleAndFramework();
+    void hostWithoutAHandleIsServedAsAnyOther();
     void initialisationWithoutFrameworkMakesTheModels();
     void operationsThatSendReturnFalseWithoutFramework();
     void initialisationIsTraced();
@@ -57,6 +58,7 @@ private Q_SLOTS:
 
     void destructionIsTraced();
     void destructionReleasesWhatThePluginOwns();
+    void destructionGoesBackThroughTheMembers();
     void destructionLeavesTheHostsObjectsAlone();
     void proxiesOutliveThePlugin();
 };
@@ -172,6 +174,37 @@ void tst_PluginSystemMonitor::initialisationKeepsHandleAndFramework()
     hosted.plugin.initNodeStatusError();
     QVERIFY(!hosted.log.take().isEmpty());
     QVERIFY(hosted.host.allCallsHadTheHandle());
+}
+
+void tst_PluginSystemMonitor::hostWithoutAHandleIsServedAsAnyOther()
+{
+    CallLog log;
+    RecordingFramework host(log);
+    TopologyModel model;
+    FakeTopologyPlugin topology(log);
+    topology.model = &model;
+    TestedPlugin plugin;
+    host.registerPlugin(u"1AA33B3D0AA047C9A202F1181284D2CD"_s, &topology);
+    host.registerPlugin(u"{CA5B02D6-F3E0-4FD7-A55C-17F425D5B415}"_s, &plugin);
+    QVERIFY(plugin.InitialPluginBase(nullptr, nullptr, &host));
+    QVERIFY(plugin.errorModel);
+    plugin.LoadPairPluginDone();
+    QCOMPARE(plugin.topologyModel, &model);
+    plugin.PluginServerConnected();
+    QVERIFY(plugin.setSnooze(u"st1"_s, 0, 4));
+    QCOMPARE(
+        log.take(),
+        QStringList({u"ask whether to skip pair wiring"_s}) + connections
+            + QStringList({u"find 1AA33B3D0AA047C9A202F1181284D2CD"_s,
+                           u"getStandardTopologyModel"_s, u"send getSnoozeList invalid to \"\""_s,
+                           u"send setSnooze {\"nodeID\": \"st1\", \"timestamp\": 0LL, "
+                           "\"type\": 4} to \"\""_s}));
+    for (const RequestedConnection &connection : host.connections())
+        QCOMPARE(connection.handle, nullptr);
+    for (const SentCommand &command : host.commands())
+        QCOMPARE(command.handle, nullptr);
+    Q_EMIT topology.nodeStatusChanged(1, u"st1"_s, false);
+    QVERIFY(plugin.lists(StationDisconnected, u"st1"_s));
 }
 
 void tst_PluginSystemMonitor::initialisationWithoutFrameworkMakesTheModels()
@@ -550,6 +583,27 @@ void tst_PluginSystemMonitor::destructionReleasesWhatThePluginOwns()
     QVERIFY(!errors);
     QVERIFY(!resources);
     QVERIFY(!monitor);
+}
+
+void tst_PluginSystemMonitor::destructionGoesBackThroughTheMembers()
+{
+    QStringList gone;
+    {
+        TestedPlugin plugin;
+        QVERIFY(plugin.Init(nullptr));
+        const auto watch = [this, &gone](const QObject *member, const QString &name) {
+            connect(member, &QObject::destroyed, this, [&gone, name] { gone.append(name); });
+        };
+        watch(plugin.errorModel, u"error list"_s);
+        watch(plugin.resourceModelControl.data(), u"resources"_s);
+        watch(&plugin.indexMap, u"index"_s);
+        watch(&plugin.stationErrorNumberTimer, u"count timer"_s);
+        watch(&plugin.initNodeStatusTimer, u"walk timer"_s);
+        watch(plugin.resourceMonitor.data(), u"monitor"_s);
+    }
+    // The list is the plug-in's child: children go when the members are gone.
+    QCOMPARE(gone, QStringList({u"monitor"_s, u"walk timer"_s, u"count timer"_s, u"index"_s,
+                                u"resources"_s, u"error list"_s}));
 }
 
 void tst_PluginSystemMonitor::destructionLeavesTheHostsObjectsAlone()

@@ -85,6 +85,7 @@ private Q_SLOTS:
     void errorsAreRemovedInTheOrderFound();
     void rowThatLeftMeanwhileIsPassedOver();
     void cameraRemovalClearsAllItsErrors();
+    void cameraRemovalGoesFromTheFirstToTheLast();
     void cameraRemovalMatchesTheWholeId_data();
     void cameraRemovalMatchesTheWholeId();
     void stationRemovalGoesByPrefix_data();
@@ -914,6 +915,18 @@ void tst_PluginSystemMonitor_Errors::rowThatLeftMeanwhileIsPassedOver()
     disconnect(connection);
     QCOMPARE(hosted.errorKeys(), QStringList{u"5_x"_s});
     QVERIFY(hosted.plugin.lists(VolumeDisconnected, u"x"_s));
+}
+
+void tst_PluginSystemMonitor_Errors::cameraRemovalGoesFromTheFirstToTheLast()
+{
+    HostedPlugin hosted;
+    for (const ErrorType type : {HighNetworkUsage, CameraDisconnected, HighCpuUsage}) {
+        hosted.plugin.addCameraError(u"st1/cam1"_s, type, QString());
+        hosted.plugin.addCameraError(u"st1/cam2"_s, type, QString());
+    }
+    const LeavingKeys leaving(hosted);
+    hosted.plugin.invoke("removeCameraError", u"st1/cam1"_s);
+    QCOMPARE(leaving.keys, QStringList({u"2_st1/cam1"_s, u"3_st1/cam1"_s, u"0_st1/cam1"_s}));
 }
 
 void tst_PluginSystemMonitor_Errors::cameraRemovalClearsAllItsErrors()

@@ -8,6 +8,7 @@
 #include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTest>
+#include <QThread>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -46,6 +47,7 @@ private Q_SLOTS:
     void focusIsAProperty();
 
     void monitorsSamplesAreRelayed();
+    void samplesOfAnotherThreadAreRelayedInThePluginsOwn();
     void replacedMonitorIsReleased();
     void replacedMonitorHeldElsewhereIsStillRelayed();
     void monitorInstalledTwiceIsRelayedTwice();
@@ -381,6 +383,29 @@ void tst_PluginSystemMonitor_EvtHandler::monitorsSamplesAreRelayed()
     Q_EMIT monitor->resourceChanged(12, 34, {});
     Q_EMIT monitor->resourceChanged(12, 34, {{}});
     QCOMPARE(hosted.log.take(), QStringList(2, u"clientResourceChanged(12, 34)"_s));
+}
+
+void tst_PluginSystemMonitor_EvtHandler::samplesOfAnotherThreadAreRelayedInThePluginsOwn()
+{
+    HostedPlugin hosted;
+    const auto monitor = QSharedPointer<ISystemResourceMonitor>::create();
+    hosted.plugin.setSystemResourceMonitor(monitor);
+    const QThread *relayThread = nullptr;
+    connect(
+        &hosted.plugin, &PluginSystemMonitor::clientResourceChanged, this,
+        [&relayThread] { relayThread = QThread::currentThread(); }, Qt::DirectConnection);
+    QThread thread;
+    monitor->moveToThread(&thread);
+    QMetaObject::invokeMethod(monitor.data(), [&monitor, &thread] {
+        Q_EMIT monitor->resourceChanged(12, 34, {});
+        thread.quit();
+    });
+    thread.start();
+    QVERIFY(thread.wait());
+    QCOMPARE(hosted.log.take(), QStringList());
+    QCoreApplication::sendPostedEvents(&hosted.plugin);
+    QCOMPARE(hosted.log.take(), QStringList{u"clientResourceChanged(12, 34)"_s});
+    QCOMPARE(relayThread, hosted.plugin.thread());
 }
 
 void tst_PluginSystemMonitor_EvtHandler::replacedMonitorIsReleased()

@@ -5,6 +5,7 @@
 
 #include <QRegularExpression>
 #include <QTest>
+#include <QThread>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -46,6 +47,7 @@ private Q_SLOTS:
     void burstOfReportsLeadsToOneWalk();
     void walkVisitsStationsAndTheirCameras();
     void walkReloadsTheStorageOfEveryStation();
+    void storageIsReloadedInTheThreadOfTheRecordings();
     void walkDescendsIntoStationsOnly();
     void walkDoesNotExamineTheTopLevelNode();
     void walkVisitsTheFirstTopLevelNodeOnly();
@@ -67,6 +69,7 @@ private Q_SLOTS:
     void volumeErrorIsClearedByStation_data();
     void volumeErrorIsClearedByStation();
     void allVolumeErrorsOfAStationAreCleared();
+    void volumeErrorsAreClearedFromTheFirstToTheLast();
     void insufficientDaysAreListedByGroup();
     void insufficientDaysReportedAgainRelabel();
     void insufficientDaysRelabelAfterTheStation();
@@ -470,6 +473,26 @@ void tst_PluginSystemMonitor_Health::walkReloadsTheStorageOfEveryStation()
     QVERIFY(hosted.host.allCallsHadTheHandle());
 }
 
+void tst_PluginSystemMonitor_Health::storageIsReloadedInTheThreadOfTheRecordings()
+{
+    HostedPlugin hosted;
+    hosted.topologyModel.addStation(u"st1"_s, u"Lobby"_s);
+    const QString reload = u"reloadStorageUsageInfo \"st1\""_s;
+    QThread thread;
+    const QThread *reloadThread = nullptr;
+    hosted.recording.onReload = [&thread, &reloadThread] {
+        reloadThread = QThread::currentThread();
+        thread.quit();
+    };
+    hosted.recording.moveToThread(&thread);
+    hosted.plugin.initNodeStatusError();
+    QVERIFY(!hosted.log.take().contains(reload));
+    thread.start();
+    QVERIFY(thread.wait());
+    QCOMPARE(hosted.log.take(), QStringList{reload});
+    QCOMPARE(reloadThread, &thread);
+}
+
 void tst_PluginSystemMonitor_Health::walkDescendsIntoStationsOnly()
 {
     HostedPlugin hosted;
@@ -712,6 +735,20 @@ void tst_PluginSystemMonitor_Health::allVolumeErrorsOfAStationAreCleared()
     hosted.plugin.invoke("monitorVolumeStatus", u"st3"_s);
     hosted.plugin.invoke("removeVolumeError", u"st1"_s);
     QCOMPARE(hosted.errorKeys(), QStringList({u"5_st2"_s, u"5_st3"_s}));
+}
+
+void tst_PluginSystemMonitor_Health::volumeErrorsAreClearedFromTheFirstToTheLast()
+{
+    HostedPlugin hosted;
+    for (const QString &volume : {u"v2"_s, u"v3"_s, u"v1"_s}) {
+        hosted.plugin.addSystemError(u"st1"_s, VolumeDisconnected, volume, QString());
+        hosted.plugin.addSystemError(u"st2"_s, VolumeDisconnected, volume, QString());
+    }
+    QStringList leaving;
+    connect(hosted.plugin.errorModel, &QAbstractItemModel::rowsAboutToBeRemoved, this,
+            [&](const QModelIndex &, int first) { leaving.append(hosted.errorKeys().at(first)); });
+    hosted.plugin.invoke("removeVolumeError", u"st1"_s);
+    QCOMPARE(leaving, QStringList({u"5_st1_v2"_s, u"5_st1_v3"_s, u"5_st1_v1"_s}));
 }
 
 void tst_PluginSystemMonitor_Health::insufficientDaysAreListedByGroup()

@@ -63,6 +63,7 @@ RandomDriver::RandomDriver(quint32 seed)
                                         ThresholdVariables{QByteArray::number(m_thresholds[0]),
                                                            QByteArray::number(m_thresholds[1]),
                                                            QByteArray::number(m_thresholds[2])}))
+    , m_errorRows(*m_host->errors(), m_host->log)
     , m_topology(&m_host->topologyModel)
     , m_reference(m_thresholds[0], m_thresholds[1], m_thresholds[2])
 {
@@ -326,7 +327,7 @@ QString RandomDriver::removeRowsBehind()
     const int first = below(rows);
     const int count = 1 + below(qMin(3, rows - first));
     errorModel().removeRows(first, count);
-    m_reference.errors.remove(first, count);
+    m_reference.removeRows(first, count);
     return u"others remove rows "_s + words({first, count});
 }
 
@@ -347,21 +348,25 @@ QString RandomDriver::changeRowBehind()
     if (m_reference.errors.isEmpty())
         return u"no row to change"_s;
     const int row = below(static_cast<int>(m_reference.errors.size()));
-    ReferenceError &error = m_reference.errors[row];
     const QModelIndex index = errorModel().index(row, 0);
+    QString text;
     switch (below(3)) {
     case 0:
-        error.key = oneOf(m_reference.errors).key;
-        errorModel().setData(index, error.key, ErrorRole::UniqueID);
+        text = oneOf(m_reference.errors).key;
+        errorModel().setData(index, text, ErrorRole::UniqueID);
+        m_reference.changeRow(row, &ReferenceError::key, text);
         break;
     case 1:
-        error.stationID = oneOf(m_stationIDs);
-        errorModel().setData(index, error.stationID, ErrorRole::StationID);
+        text = oneOf(m_stationIDs);
+        errorModel().setData(index, text, ErrorRole::StationID);
+        m_reference.changeRow(row, &ReferenceError::stationID, text);
         break;
     default:
-        error.deviceID = nodeID();
-        errorModel().setData(index, error.deviceID, ErrorRole::DeviceID);
+        text = nodeID();
+        errorModel().setData(index, text, ErrorRole::DeviceID);
+        m_reference.changeRow(row, &ReferenceError::deviceID, text);
     }
+    const ReferenceError &error = m_reference.errors.at(row);
     return u"others change row "_s + words({row, error.key, error.stationID, error.deviceID});
 }
 
@@ -370,7 +375,7 @@ QString RandomDriver::resetListBehind()
     if (!oneIn(4))
         return u"list stays"_s;
     errorModel().clear();
-    m_reference.errors.clear();
+    m_reference.resetRows();
     return u"others reset the list"_s;
 }
 

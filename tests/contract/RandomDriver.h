@@ -2,6 +2,7 @@
 #define RANDOMDRIVER_H
 
 #include "ReferenceMonitor.h"
+#include "RowLog.h"
 #include "TestHost.h"
 
 #include <QRandomGenerator>
@@ -99,6 +100,7 @@ private:
     QStringList m_subIDs;
     int m_thresholds[3];
     std::unique_ptr<TestHost> m_host;
+    RowLog m_errorRows;
     std::unique_ptr<TopologyModel> m_ownTopology; ///< takes the place of the host's
     TopologyModel *m_topology;                    ///< null while there is none
     ReferenceMonitor m_reference;

@@ -14,6 +14,11 @@ constexpr int StationError = 4;
 constexpr int VolumeError = 5;
 constexpr int DaysError = 7;
 
+constexpr int StationRole = 257;
+constexpr int DeviceRole = 258;
+constexpr int OriginRole = 263;
+constexpr int KeyRole = 264;
+
 bool isDigit(const QString &text, qsizetype position)
 {
     return position < text.size() && text[position] >= u'0' && text[position] <= u'9';
@@ -177,6 +182,43 @@ QString ReferenceMonitor::groupOrigin(const QString &stationID, const QString &g
 
 // The error list.
 
+void ReferenceMonitor::rowsInserted(int row)
+{
+    log.append(u"insert rows "_s + QString::number(row) + u" to "_s + QString::number(row));
+}
+
+void ReferenceMonitor::rowsRemoved(int first, int last)
+{
+    log.append(u"remove rows "_s + QString::number(first) + u" to "_s + QString::number(last));
+}
+
+// A model tells of a value only when it is another one.
+void ReferenceMonitor::changeRow(int row, QString ReferenceError::*value, const QString &text)
+{
+    if (errors[row].*value == text)
+        return;
+    errors[row].*value = text;
+    const int role = value == &ReferenceError::stationID  ? StationRole
+                     : value == &ReferenceError::deviceID ? DeviceRole
+                     : value == &ReferenceError::origin   ? OriginRole
+                                                          : KeyRole;
+    const QString number = QString::number(row);
+    log.append(u"change rows "_s + number + u" to "_s + number + u", roles "_s
+               + QString::number(role));
+}
+
+void ReferenceMonitor::removeRows(int first, int count)
+{
+    errors.remove(first, count);
+    rowsRemoved(first, first + count - 1);
+}
+
+void ReferenceMonitor::resetRows()
+{
+    errors.clear();
+    log.append(u"reset rows"_s);
+}
+
 ReferenceError *ReferenceMonitor::find(int type, const QString &id, const QString &subID)
 {
     const int serial = m_serials.value(key(type, id, subID), 0);
@@ -193,15 +235,16 @@ void ReferenceMonitor::append(const ReferenceError &error)
     errors.last().serial = ++m_lastSerial;
     errors.last().step = step;
     m_serials[error.key] = m_lastSerial;
+    rowsInserted(static_cast<int>(errors.size()) - 1);
 }
 
 void ReferenceMonitor::remove(int serial)
 {
-    for (qsizetype row = 0; row < errors.size(); ++row) {
+    for (int row = 0; row < errors.size(); ++row) {
         if (errors[row].serial != serial)
             continue;
         m_serials.remove(errors[row].key);
-        errors.removeAt(row);
+        removeRows(row, 1);
         return;
     }
 }
@@ -209,9 +252,11 @@ void ReferenceMonitor::remove(int serial)
 void ReferenceMonitor::moveRow(int from, int to)
 {
     // A row that was taken out comes back as another one, which no key finds.
-    ReferenceError error = errors.takeAt(from);
+    ReferenceError error = errors.at(from);
     error.serial = ++m_lastSerial;
+    removeRows(from, 1);
     errors.insert(to, error);
+    rowsInserted(to);
 }
 
 void ReferenceMonitor::addStationError(const QString &stationID, int type, const QString &subID,
@@ -242,10 +287,9 @@ void ReferenceMonitor::cameraRemoved(const QString &id)
 
 void ReferenceMonitor::stationRemoved(const QString &id)
 {
-    const QList<ReferenceError> before = errors;
-    for (const ReferenceError &error : before) {
-        if (error.stationID.left(id.size()) == id)
-            remove(error.serial);
+    for (int row = static_cast<int>(errors.size()) - 1; row >= 0; --row) {
+        if (errors[row].stationID.left(id.size()) == id)
+            remove(errors[row].serial);
     }
 }
 
@@ -343,8 +387,9 @@ void ReferenceMonitor::usage(int type, const QString &stationID, int usage, cons
 void ReferenceMonitor::daysInsufficient(const QString &stationID, const QString &name,
                                         const QString &groupID)
 {
-    if (ReferenceError *const error = find(DaysError, stationID, groupID)) {
-        error->origin = groupOrigin(stationID, name);
+    if (const ReferenceError *const error = find(DaysError, stationID, groupID)) {
+        const auto row = static_cast<int>(error - errors.constData());
+        changeRow(row, &ReferenceError::origin, groupOrigin(stationID, name));
         return;
     }
     append({0, 0, key(DaysError, stationID, groupID), stationID, stationID, DaysError, 1,

@@ -45,8 +45,8 @@ struct ReferenceResource
 /// The rules of the health dashboard, written down once more: literal, slow and in plain lists.
 ///
 /// It shares no code with the plug-in. The state lies open for comparison; what the plug-in should
-/// do outwards (signals, commands, calls on other plug-ins) is written to the log, in the form in
-/// which the fakes of the tests write it.
+/// do outwards (signals, its own and those of the error list's rows, commands, calls on other
+/// plug-ins) is written to the log, in the form in which the fakes of the tests write it.
 class ReferenceMonitor
 {
 public:
@@ -69,6 +69,9 @@ public:
 
     // What others do to the error list.
     void moveRow(int from, int to);
+    void removeRows(int first, int count);
+    void changeRow(int row, QString ReferenceError::*value, const QString &text);
+    void resetRows();
 
     // What the topology plug-in reports.
     void nodeStatus(int type, const QString &id, bool isConnected);
@@ -112,6 +115,8 @@ private:
     QString cameraOrigin(const QString &cameraID) const;
     QString groupOrigin(const QString &stationID, const QString &groupName) const;
 
+    void rowsInserted(int row);
+    void rowsRemoved(int first, int last);
     ReferenceError *find(int type, const QString &id, const QString &subID = {});
     void append(const ReferenceError &error);
     void remove(int serial);

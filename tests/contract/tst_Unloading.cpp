@@ -1,5 +1,6 @@
 #include "FakeTopologyPlugin.h"
 #include "HandMadeFramework.h"
+#include "LoadedFile.h"
 #include "PluginBase.h"
 #include "PluginIDs.h"
 #include "PrintedValue.h"
@@ -7,8 +8,6 @@
 #include "TopologyModel.h"
 
 #include <QAbstractItemModel>
-#include <QFile>
-#include <QFileInfo>
 #include <QPluginLoader>
 #include <QRegularExpression>
 #include <QTest>
@@ -16,18 +15,6 @@
 #include <memory>
 
 using namespace Qt::Literals::StringLiterals;
-
-namespace {
-
-// Whether any part of the plug-in file is in the memory of this process.
-bool isMapped()
-{
-    QFile maps(u"/proc/self/maps"_s);
-    return maps.open(QIODevice::ReadOnly)
-           && maps.readAll().contains(QFileInfo(QStringLiteral(PLUGIN_FILE)).fileName().toUtf8());
-}
-
-} // namespace
 
 /// The plug-in file leaves the process again. Each step needs the one before.
 class tst_Unloading : public QObject
@@ -57,7 +44,7 @@ void tst_Unloading::loadingOpensTheTraceLibrary()
     QVERIFY(!TestTraceLibrary::isLoaded());
     m_loader.setLoadHints({}); // by default Qt keeps every plug-in loaded
     QVERIFY2(m_loader.load(), qUtf8Printable(m_loader.errorString()));
-    QVERIFY(isMapped());
+    QVERIFY(isLoadedFile(QStringLiteral(PLUGIN_FILE)));
     QVERIFY(TestTraceLibrary::isLoaded());
 }
 
@@ -105,7 +92,7 @@ void tst_Unloading::objectLivesThroughEverySubject()
 void tst_Unloading::unloadingRemovesTheFileFromTheProcess()
 {
     QVERIFY2(m_loader.unload(), qUtf8Printable(m_loader.errorString()));
-    QVERIFY(!isMapped());
+    QVERIFY(!isLoadedFile(QStringLiteral(PLUGIN_FILE)));
 }
 
 void tst_Unloading::unloadingClosesTheTraceLibrary()

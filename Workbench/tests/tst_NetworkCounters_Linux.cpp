@@ -19,7 +19,7 @@ QStringList printed(const std::vector<InterfaceCounters> &all)
 
 } // namespace
 
-class tst_NetworkCounters : public QObject
+class tst_NetworkCounters_Linux : public QObject
 {
     Q_OBJECT
 
@@ -29,7 +29,7 @@ private Q_SLOTS:
     void readsThisMachine();
 };
 
-void tst_NetworkCounters::readsRecordedTrees_data()
+void tst_NetworkCounters_Linux::readsRecordedTrees_data()
 {
     QTest::addColumn<QString>("tree");
     QTest::addColumn<QStringList>("expected");
@@ -46,14 +46,14 @@ void tst_NetworkCounters::readsRecordedTrees_data()
     QTest::newRow("no tree") << QStringLiteral("nowhere") << QStringList();
 }
 
-void tst_NetworkCounters::readsRecordedTrees()
+void tst_NetworkCounters_Linux::readsRecordedTrees()
 {
     QFETCH(QString, tree);
     const QString root = QFINDTESTDATA("data/network") + u'/' + tree;
     QTEST(printed(NetworkCounters(root).read()), "expected");
 }
 
-void tst_NetworkCounters::readsThisMachine()
+void tst_NetworkCounters_Linux::readsThisMachine()
 {
     const NetworkCounters counters;
     const std::vector<InterfaceCounters> before = counters.read();
@@ -66,5 +66,5 @@ void tst_NetworkCounters::readsThisMachine()
     }
 }
 
-QTEST_GUILESS_MAIN(tst_NetworkCounters)
-#include "tst_NetworkCounters.moc"
+QTEST_GUILESS_MAIN(tst_NetworkCounters_Linux)
+#include "tst_NetworkCounters_Linux.moc"

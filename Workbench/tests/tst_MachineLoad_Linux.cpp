@@ -50,7 +50,7 @@ private:
 } // namespace
 
 /// The Workbench on the machine that it runs on, which is put under load.
-class tst_MachineLoad : public QObject
+class tst_MachineLoad_Linux : public QObject
 {
     Q_OBJECT
 
@@ -60,14 +60,14 @@ private Q_SLOTS:
     void loadOfThisMachineRaisesAnErrorUntilItRests();
 };
 
-void tst_MachineLoad::initTestCase()
+void tst_MachineLoad_Linux::initTestCase()
 {
     if (!hasExporter())
         QSKIP("prometheus-node-exporter is not installed.");
 }
 
 // The threshold is just below what the loops bring, which other work on the machine seldom does.
-void tst_MachineLoad::loadOfThisMachineRaisesAnErrorUntilItRests()
+void tst_MachineLoad_Linux::loadOfThisMachineRaisesAnErrorUntilItRests()
 {
     auto loops = std::make_unique<BusyLoops>();
     const int threshold = static_cast<int>(0.95 * measuredLoad());
@@ -88,5 +88,5 @@ void tst_MachineLoad::loadOfThisMachineRaisesAnErrorUntilItRests()
     QVERIFY2(hasCleared, workbench.output());
 }
 
-QTEST_GUILESS_MAIN(tst_MachineLoad)
-#include "tst_MachineLoad.moc"
+QTEST_GUILESS_MAIN(tst_MachineLoad_Linux)
+#include "tst_MachineLoad_Linux.moc"

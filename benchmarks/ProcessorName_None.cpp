@@ -1,0 +1,8 @@
+#include "ProcessorName.h"
+
+#include <QSysInfo>
+
+QString processorName()
+{
+    return QSysInfo::currentCpuArchitecture();
+}

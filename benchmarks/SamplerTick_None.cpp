@@ -1,0 +1,6 @@
+#include "SamplerTick.h"
+
+std::function<void()> readingTick()
+{
+    return {};
+}
