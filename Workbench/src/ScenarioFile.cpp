@@ -12,11 +12,14 @@
 #include <QRandomGenerator>
 
 #include <algorithm>
+#include <iterator>
 
 namespace {
 
 constexpr int MaxDays = 36'500;
 constexpr double MaxCapacityPercentage = 1000;
+// All storms together; a few hundred bytes each.
+constexpr qsizetype MaxEvents = 10'000'000;
 
 // Reads events one after another on a site from which it takes what they remove.
 class Reader
@@ -100,7 +103,9 @@ void Reader::read(JsonObject &object, std::vector<ScenarioEvent> &events)
     m_earliest = static_cast<double>(atMs) / 1000.0;
     const QString verb = object.text(doKey);
     if (verb == stormVerb) {
-        appendStorm(readStorm(object, m_site, m_chance), atMs, m_chance, events);
+        const auto left = qMax(qsizetype(0), MaxEvents - std::ssize(events));
+        appendStorm(readStorm(object, m_site, m_chance, static_cast<int>(left)), atMs, m_chance,
+                    events);
     } else {
         const ActionReader reader = actionReaders().value(verb);
         if (!reader) {

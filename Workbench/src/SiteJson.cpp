@@ -16,9 +16,9 @@ constexpr int MaxDays = 36'500;
 constexpr int MaxAlike = 10'000;
 constexpr int MaxNodes = 100'000;
 
-constexpr QLatin1String IdKey("id");
-constexpr QLatin1String NameKey("name");
-constexpr QLatin1String CountKey("count");
+const QString IdKey = QStringLiteral("id");
+const QString NameKey = QStringLiteral("name");
+const QString CountKey = QStringLiteral("count");
 
 class Reader
 {

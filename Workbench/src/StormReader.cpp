@@ -14,11 +14,11 @@ namespace {
 constexpr double LeastRate = 0.01; // changes a second
 constexpr double MaxRate = 100'000;
 constexpr double LeastFlapSeconds = 0.1;
-constexpr double MaxChanges = 10'000'000;
 
-constexpr QLatin1String StationKey("station");
-constexpr QLatin1String SecondsKey("seconds");
-constexpr QLatin1String RateKey("rate");
+const QString CamerasKey = QStringLiteral("cameras");
+const QString StationKey = QStringLiteral("station");
+const QString SecondsKey = QStringLiteral("seconds");
+const QString RateKey = QStringLiteral("rate");
 
 class Reader
 {
@@ -27,8 +27,9 @@ class Reader
 public:
     static StormChange change(JsonObject &event);
     static QStringList cameras(JsonObject &event, const Site &site, QRandomGenerator &chance);
-    static void readFlapping(JsonObject &event, Storm &storm);
-    static void readPace(JsonObject &event, Storm &storm);
+    static void readFlapping(JsonObject &event, int most, Storm &storm);
+    static void readPace(JsonObject &event, int most, Storm &storm);
+    static void expectAtMost(int most, double changes, JsonObject &event, const QString &key);
 };
 
 StormChange Reader::change(JsonObject &event)
@@ -50,7 +51,6 @@ StormChange Reader::change(JsonObject &event)
 
 QStringList Reader::cameras(JsonObject &event, const Site &site, QRandomGenerator &chance)
 {
-    const QString countKey = QStringLiteral("cameras");
     QStringList all;
     const auto add = [&all](const Station &station) {
         for (const Camera &camera : station.cameras)
@@ -63,25 +63,24 @@ QStringList Reader::cameras(JsonObject &event, const Site &site, QRandomGenerato
     if (all.isEmpty())
         event.fail(StationKey, tr("a station with cameras"), tr("one without"));
     const int most = static_cast<int>(all.size());
-    return chooseCameras(all, event.has(countKey) ? event.wholeNumber(countKey, 1, most) : most,
+    return chooseCameras(all, event.has(CamerasKey) ? event.wholeNumber(CamerasKey, 1, most) : most,
                          chance);
 }
 
-void Reader::readFlapping(JsonObject &event, Storm &storm)
+void Reader::readFlapping(JsonObject &event, int most, Storm &storm)
 {
     const double rate = event.number(RateKey, LeastRate, MaxRate);
     storm.durationMs = ScenarioValues::milliseconds(event, SecondsKey, LeastFlapSeconds);
     const double changes = std::ceil(static_cast<double>(storm.durationMs) / 1000.0 * rate);
-    if (changes > MaxChanges)
-        event.fail(RateKey, tr("at most %1 changes in all").arg(static_cast<int>(MaxChanges)),
-                   QString::number(changes, 'f', 0));
+    expectAtMost(most, changes, event, RateKey);
     storm.changeCount = static_cast<int>(changes);
 }
 
 // Cameras that change once each need no more than one of the two figures.
-void Reader::readPace(JsonObject &event, Storm &storm)
+void Reader::readPace(JsonObject &event, int most, Storm &storm)
 {
     storm.changeCount = static_cast<int>(storm.cameraIds.size());
+    expectAtMost(most, storm.changeCount, event, CamerasKey);
     if (event.has(RateKey)) {
         const double rate = event.number(RateKey, LeastRate, MaxRate);
         if (event.has(SecondsKey))
@@ -92,16 +91,23 @@ void Reader::readPace(JsonObject &event, Storm &storm)
     }
 }
 
+void Reader::expectAtMost(int most, double changes, JsonObject &event, const QString &key)
+{
+    if (changes > most)
+        event.fail(key, tr("at most %1 changes in all").arg(most),
+                   QString::number(changes, 'f', 0));
+}
+
 } // namespace
 
-Storm readStorm(JsonObject &event, const Site &site, QRandomGenerator &chance)
+Storm readStorm(JsonObject &event, const Site &site, QRandomGenerator &chance, int most)
 {
     Storm storm;
     storm.change = Reader::change(event);
     storm.cameraIds = Reader::cameras(event, site, chance);
     if (storm.change == StormChange::Flap)
-        Reader::readFlapping(event, storm);
+        Reader::readFlapping(event, most, storm);
     else
-        Reader::readPace(event, storm);
+        Reader::readPace(event, most, storm);
     return storm;
 }

@@ -11,6 +11,7 @@ class Site;
 ///
 /// @param site   where the cameras are
 /// @param chance decides which cameras, if not all
-Storm readStorm(JsonObject &event, const Site &site, QRandomGenerator &chance);
+/// @param most   how many changes the storm may make
+Storm readStorm(JsonObject &event, const Site &site, QRandomGenerator &chance, int most);
 
 #endif
