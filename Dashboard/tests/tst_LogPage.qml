@@ -220,8 +220,8 @@ Item {
             page.anchors.fill = undefined;
             page.width = Theme.em(40);
             tryVerify(() => itemsWhere(page, item => item instanceof LogRow)[0].height > height);
-            waitForRendering(page);
-            compare(itemsWhere(page, item => item instanceof LogRow && item.truncated).length, 0);
+            tryVerify(() => itemsWhere(page, item => item instanceof LogRow
+                                                     && item.truncated).length === 0);
         }
     }
 }

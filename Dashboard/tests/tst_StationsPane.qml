@@ -138,13 +138,13 @@ Item {
             pane.width = Theme.em(data.ems);
             plugin.isSupportSystemMonitor(last, false);
             compare(row(last).detail, "Disconnected · unmonitored");
-            waitForRendering(pane);
-            compare(row(last).truncated, false);
+            tryVerify(() => !row(last).truncated);
             const detail = itemsWhere(row(last), item => item.text === row(last).detail)[0];
-            compare(detail.lineCount, data.lines);
+            tryCompare(detail, "lineCount", data.lines);
             for (const text of itemsWhere(row(last), item => item instanceof Text && item.visible)) {
-                verify(text.mapToItem(row(last), 0, 0).y >= 0, text.text);
-                verify(text.mapToItem(row(last), 0, text.height).y <= row(last).height, text.text);
+                tryVerify(() => text.mapToItem(row(last), 0, 0).y >= 0
+                                && text.mapToItem(row(last), 0, text.height).y <= row(last).height,
+                          5000, text.text);
             }
         }
 
