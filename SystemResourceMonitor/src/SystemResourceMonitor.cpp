@@ -14,9 +14,38 @@ namespace {
 
 constexpr int SamplingIntervalMs = 1000;
 
+// Takes back what registerSignalTypes() did when the file that holds the types is unloaded: Qt
+// would go on reading what it knows of them where it lay.
+class RegisteredTypes
+{
+public:
+    RegisteredTypes() = default;
+    ~RegisteredTypes()
+    {
+        takeBack(QMetaType::fromType<QList<NetworkUsage>>());
+        takeBack(QMetaType::fromType<NetworkUsage>());
+        // To which lists are converted.
+        takeBack(QMetaType::fromType<QIterable<QMetaSequence>>());
+    }
+
+    RegisteredTypes(const RegisteredTypes &) = delete;
+    RegisteredTypes &operator=(const RegisteredTypes &) = delete;
+
+private:
+    // Only if it was this file that made it known.
+    static void takeBack(QMetaType type)
+    {
+        if (QMetaType(type.id()).iface() == type.iface())
+            QMetaType::unregisterMetaType(type);
+    }
+};
+
 // Makes the types known by name, for queued connections and variants.
 void registerSignalTypes()
 {
+    // Made first, so that it ends last: the list's conversions name its type once more when they
+    // go.
+    static const RegisteredTypes types;
     qRegisterMetaType<NetworkUsage>();
     qRegisterMetaType<QList<NetworkUsage>>();
 }
