@@ -17,6 +17,7 @@ private Q_SLOTS:
     void callFromWithinAChangeFollowsIt();
     void postponedCallsKeepTheirOrder();
     void callPostponedByAPostponedCallComesLast();
+    void postponedCallEndsBeforeTheNextBegins();
     void changeWithinAChangeLetsCallsWaitForTheOuterOne();
     void postponedCallMayChangeAtOnce();
     void callDuringAChangeByOthersFollowsFromTheEventLoop();
@@ -82,6 +83,20 @@ void tst_ChangeQueue::callPostponedByAPostponedCallComesLast()
         queue.postpone([&] { log.append(u"b"_s); });
     });
     QCOMPARE(log, QStringList({u"a"_s, u"b"_s, u"of a"_s}));
+}
+
+void tst_ChangeQueue::postponedCallEndsBeforeTheNextBegins()
+{
+    ChangeQueue queue(this);
+    QStringList log;
+    queue.perform([&] {
+        queue.postpone([&] {
+            queue.perform([&] { log.append(u"change of a"_s); });
+            log.append(u"end of a"_s);
+        });
+        queue.postpone([&] { log.append(u"b"_s); });
+    });
+    QCOMPARE(log, QStringList({u"change of a"_s, u"end of a"_s, u"b"_s}));
 }
 
 void tst_ChangeQueue::changeWithinAChangeLetsCallsWaitForTheOuterOne()
