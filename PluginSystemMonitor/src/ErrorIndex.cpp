@@ -9,8 +9,6 @@
 
 namespace {
 
-using Model = QAbstractItemModel;
-
 template <typename Compare>
 QList<QStandardItem *> sortedByRow(const QList<QStandardItem *> &items, Compare compare)
 {
@@ -29,85 +27,12 @@ QList<QStandardItem *> sortedByRow(const QList<QStandardItem *> &items, Compare 
     return sorted;
 }
 
-bool mayHoldIds(const QList<int> &roles)
-{
-    return roles.isEmpty() || roles.contains(SystemErrorModel::StationIDRole)
-           || roles.contains(SystemErrorModel::DeviceIDRole);
-}
-
 } // namespace
-
-void ErrorIndex::setModel(QStandardItemModel *model)
-{
-    if (m_model)
-        m_model->disconnect(this);
-    m_model = model;
-    m_changes = 0;
-    countChanges();
-    followRows();
-    trackAnew();
-}
-
-void ErrorIndex::countChanges()
-{
-    connect(m_model, &Model::rowsAboutToBeInserted, this, &ErrorIndex::beginChange);
-    connect(m_model, &Model::rowsAboutToBeRemoved, this, &ErrorIndex::beginChange);
-    connect(m_model, &Model::columnsAboutToBeInserted, this, &ErrorIndex::beginChange);
-    connect(m_model, &Model::columnsAboutToBeRemoved, this, &ErrorIndex::beginChange);
-    connect(m_model, &Model::modelAboutToBeReset, this, &ErrorIndex::beginChange);
-
-    connect(m_model, &Model::rowsInserted, this, &ErrorIndex::endChange);
-    connect(m_model, &Model::rowsRemoved, this, &ErrorIndex::endChange);
-    connect(m_model, &Model::columnsInserted, this, &ErrorIndex::endChange);
-    connect(m_model, &Model::columnsRemoved, this, &ErrorIndex::endChange);
-    connect(m_model, &Model::modelReset, this, &ErrorIndex::endChange);
-}
-
-void ErrorIndex::followRows()
-{
-    // The rows of the list have no children; what lies below them is of no concern.
-    connect(m_model, &Model::rowsInserted, this,
-            [this](const QModelIndex &parent, int first, int last) {
-                if (!parent.isValid())
-                    trackRows(first, last);
-            });
-    connect(m_model, &Model::rowsAboutToBeRemoved, this,
-            [this](const QModelIndex &parent, int first, int last) {
-                if (!parent.isValid())
-                    untrackRows(first, last);
-            });
-    connect(m_model, &Model::dataChanged, this,
-            [this](const QModelIndex &from, const QModelIndex &to, const QList<int> &roles) {
-                if (!from.parent().isValid() && mayHoldIds(roles))
-                    refileRows(from.row(), to.row());
-            });
-
-    // Items may be replaced or gone after these, which nobody does to the error list in earnest.
-    connect(m_model, &Model::layoutChanged, this, &ErrorIndex::trackAnew);
-    connect(m_model, &Model::columnsInserted, this, &ErrorIndex::trackAnew);
-    connect(m_model, &Model::columnsRemoved, this, &ErrorIndex::trackAnew);
-    connect(m_model, &Model::modelReset, this, &ErrorIndex::trackAnew);
-    connect(m_model, &Model::modelAboutToBeReset, this, &ErrorIndex::clear);
-    connect(m_model, &Model::columnsAboutToBeRemoved, this,
-            [this](const QModelIndex &parent, int first) {
-                if (!parent.isValid() && first == 0)
-                    clear();
-            });
-}
 
 void ErrorIndex::insert(const QString &key, QStandardItem *item)
 {
-    const auto it = m_rows.find(item);
-    if (it == m_rows.end())
-        return;
-    Row &row = it->second;
-    dropKey(row);
-    if (Row *predecessor = rowOfKey(key))
-        dropKey(*predecessor);
-    row.key = key;
-    row.isKeyed = true;
-    addTo(m_keys[qHash(key)], row, &Row::sameHash);
-    m_usageKeys.add(key);
+    if (Row *row = rowOfItem(item))
+        fileUnderKey(*row, key);
 }
 
 void ErrorIndex::announce(const QString &key, const QStandardItem *item)
@@ -166,6 +91,48 @@ QMap<QString, int> ErrorIndex::countsByStation() const
     return counts;
 }
 
+bool ErrorIndex::contains(const QStandardItem *item, quint64 age)
+{
+    const Row *row = rowOfItem(item);
+    return row && row->age <= age;
+}
+
+void ErrorIndex::fileUnderKey(Row &row, const QString &key)
+{
+    dropKey(row);
+    if (Row *predecessor = rowOfKey(key))
+        dropKey(*predecessor);
+    row.key = key;
+    row.isKeyed = true;
+    Row *&first = m_keys[qHash(key)];
+    row.nextOfHash = first;
+    first = &row;
+    m_usageKeys.add(key);
+}
+
+ErrorIndex::Row *ErrorIndex::rowOfKey(const QString &key) const
+{
+    Row *row = m_keys.value(qHash(key));
+    while (row && row->key != key)
+        row = row->nextOfHash;
+    return row;
+}
+
+void ErrorIndex::dropKey(Row &row)
+{
+    if (!row.isKeyed)
+        return;
+    row.isKeyed = false;
+    const auto first = m_keys.find(qHash(row.key));
+    Row **link = &*first;
+    while (*link != &row)
+        link = &(*link)->nextOfHash;
+    *link = row.nextOfHash;
+    if (!*first)
+        m_keys.erase(first);
+    m_usageKeys.remove(row.key);
+}
+
 void ErrorIndex::addTo(Group &group, Row &row, Links Row::*links)
 {
     row.*links = {nullptr, group.first};
@@ -193,41 +160,40 @@ void ErrorIndex::appendItems(QList<QStandardItem *> &items, const Group &group, 
         items.append(row->item);
 }
 
-bool ErrorIndex::contains(const QStandardItem *item, quint64 age) const
+ErrorIndex::Row &ErrorIndex::newRow(QStandardItem *item)
 {
-    const auto it = m_rows.find(item);
-    return it != m_rows.end() && it->second.age <= age;
-}
-
-QStandardItem *ErrorIndex::itemOfRow(int row) const
-{
-    // A row that was inserted bare gets its item here.
-    return m_model->itemFromIndex(m_model->index(row, 0));
-}
-
-void ErrorIndex::track(QStandardItem *item)
-{
-    const auto [it, isNew] = m_rows.try_emplace(item);
-    Row &row = it->second;
-    if (!isNew)
-        unfile(row);
+    if (m_freeRows.isEmpty())
+        m_freeRows.append(&m_rows.emplace_back());
+    Row &row = *m_freeRows.takeLast();
     row.item = item;
-    file(row);
-    row.age = ++m_newestAge;
-    if (item == m_announcedItem) {
-        m_announcedItem = nullptr;
-        insert(m_announcedKey, item);
-    }
+    if (m_filesItems)
+        m_rowsOfItems.insert(item, &row);
+    return row;
 }
 
-void ErrorIndex::untrack(const QStandardItem *item)
+void ErrorIndex::giveBack(Row &row)
 {
-    const auto it = m_rows.find(item);
-    if (it == m_rows.end())
+    m_rowsOfItems.remove(row.item);
+    row = Row();
+    m_freeRows.append(&row);
+}
+
+ErrorIndex::Row *ErrorIndex::rowOfItem(const QStandardItem *item)
+{
+    fileItems();
+    return m_rowsOfItems.value(item);
+}
+
+void ErrorIndex::fileItems()
+{
+    if (m_filesItems)
         return;
-    unfile(it->second);
-    dropKey(it->second);
-    m_rows.erase(it);
+    m_filesItems = true;
+    m_rowsOfItems.reserve(static_cast<qsizetype>(m_rows.size()));
+    for (Row &row : m_rows) {
+        if (row.item)
+            m_rowsOfItems.insert(row.item, &row);
+    }
 }
 
 void ErrorIndex::file(Row &row)
@@ -274,99 +240,22 @@ void ErrorIndex::fileDevices()
     if (m_filesDevices)
         return;
     m_filesDevices = true;
-    for (auto &[item, row] : m_rows)
-        fileUnderDevice(row);
-}
-
-ErrorIndex::Row *ErrorIndex::rowOfKey(const QString &key) const
-{
-    Row *row = m_keys.value(qHash(key)).first;
-    while (row && row->key != key)
-        row = row->sameHash.next;
-    return row;
-}
-
-void ErrorIndex::dropKey(Row &row)
-{
-    if (!row.isKeyed)
-        return;
-    row.isKeyed = false;
-    const auto group = m_keys.find(qHash(row.key));
-    takeFrom(*group, row, &Row::sameHash);
-    if (!group->first)
-        m_keys.erase(group);
-    m_usageKeys.remove(row.key);
-}
-
-void ErrorIndex::trackRows(int first, int last)
-{
-    for (int row = first; row <= last; ++row) {
-        if (QStandardItem *item = itemOfRow(row))
-            track(item);
-    }
-}
-
-void ErrorIndex::untrackRows(int first, int last)
-{
-    for (int row = first; row <= last; ++row)
-        untrack(itemOfRow(row));
-}
-
-void ErrorIndex::refileRows(int first, int last)
-{
-    for (int row = first; row <= last; ++row) {
-        const auto it = m_rows.find(itemOfRow(row));
-        if (it == m_rows.end()) {
-            // Another item stands where one was filed, which may be deleted by now.
-            trackAnew();
-            return;
-        }
-        unfile(it->second);
-        file(it->second);
-    }
-}
-
-void ErrorIndex::beginChange()
-{
-    ++m_changes;
-}
-
-void ErrorIndex::endChange()
-{
-    m_changes = qMax(0, m_changes - 1);
-    if (m_tracksDoomed && m_changes == 0) {
-        m_tracksDoomed = false;
-        trackAnew();
-    }
-}
-
-void ErrorIndex::trackAnew()
-{
-    m_tracksDoomed = m_changes > 0;
-    const auto oldRows = std::move(m_rows);
-    clear();
-    for (int row = 0; row < m_model->rowCount(); ++row) {
-        // The item that a bare row gets may have the address of one that was deleted.
-        const bool wasBare = !m_model->item(row);
-        QStandardItem *item = itemOfRow(row);
-        if (!item)
-            continue;
-        track(item);
-        const auto old = oldRows.find(item);
-        if (wasBare || old == oldRows.end())
-            continue;
-        m_rows[item].age = old->second.age;
-        if (old->second.isKeyed)
-            insert(old->second.key, item);
+    for (Row &row : m_rows) {
+        if (row.item)
+            fileUnderDevice(row);
     }
 }
 
 void ErrorIndex::clear()
 {
     m_rows.clear();
+    m_freeRows.clear();
+    m_rowsOfItems.clear();
+    m_filesItems = false;
     m_keys.clear();
     m_usageKeys.clear();
     m_stations.clear();
     m_lastStation = nullptr;
     m_devices.clear();
+    m_filesDevices = false;
 }

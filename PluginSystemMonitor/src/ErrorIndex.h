@@ -10,6 +10,7 @@
 #include <QObject>
 #include <QString>
 
+#include <deque>
 #include <map>
 #include <unordered_map>
 
@@ -21,6 +22,9 @@ class QStandardItemModel;
 /// Rows are held by their items: a persistent index would cost time at every removal of any other
 /// row. The index follows the model's signals, so that rows which others add, change or remove are
 /// found, or not found, as a scan would.
+///
+/// A storm that only adds rows asks for none by its item or by its device. Rows are filed under
+/// those when somebody first does, until the list is empty again.
 class ErrorIndex : public QObject
 {
 public:
@@ -50,8 +54,7 @@ public:
     QList<QStandardItem *> rowsOfStationsStartingWith(const QString &prefix) const;
     /// The rows of one station, the first row first.
     QList<QStandardItem *> rowsOfStation(const QString &stationID) const;
-    /// The rows of one device, the first row first. Devices leave a site seldom, if ever: rows are
-    /// filed under them from the first call on.
+    /// The rows of one device, the first row first.
     QList<QStandardItem *> rowsOfDevice(const QString &deviceID);
     /// How many rows each station has, in the order of the station ids.
     QMap<QString, int> countsByStation() const;
@@ -60,7 +63,7 @@ public:
     quint64 newestAge() const { return m_newestAge; }
     /// Whether an item is a row of the model that came no later than the row of this age. If not,
     /// it may be deleted, or stand where a deleted one stood.
-    bool contains(const QStandardItem *item, quint64 age) const;
+    bool contains(const QStandardItem *item, quint64 age);
     /// Whether rows or columns are announced to come or to go, and have not yet.
     bool isChanging() const { return m_changes > 0; }
 
@@ -84,7 +87,7 @@ private:
     /// What an item is filed under.
     struct Row
     {
-        QStandardItem *item = nullptr;
+        QStandardItem *item = nullptr; ///< null while no row of the list is kept here
         QString key;
         bool isKeyed = false; ///< filed under its key, which another row may have taken over
         quint64 age = 0;
@@ -92,36 +95,54 @@ private:
         Devices::value_type *device = nullptr;
         Links sameStation;
         Links sameDevice;
-        Links sameHash;
+        Row *nextOfHash = nullptr;
     };
 
     static void addTo(Group &group, Row &row, Links Row::*links);
     static void takeFrom(Group &group, Row &row, Links Row::*links);
     static void appendItems(QList<QStandardItem *> &items, const Group &group, Links Row::*links);
 
-    void countChanges();
-    void followRows();
-    QStandardItem *itemOfRow(int row) const;
-    void track(QStandardItem *item);
-    void untrack(const QStandardItem *item);
+    // Keys
+
+    void fileUnderKey(Row &row, const QString &key);
+    Row *rowOfKey(const QString &key) const;
+    void dropKey(Row &row);
+
+    // Items, stations and devices
+
+    Row &newRow(QStandardItem *item);
+    void giveBack(Row &row);
+    Row *rowOfItem(const QStandardItem *item);
+    void fileItems();
     void file(Row &row);
     void unfile(Row &row);
     void fileUnderStation(Row &row);
     void fileUnderDevice(Row &row);
     void fileDevices();
-    Row *rowOfKey(const QString &key) const;
-    void dropKey(Row &row);
+    void clear();
+
+    // The model
+
+    void countChanges();
+    void followRows();
+    QStandardItem *itemOfRow(int row) const;
+    void track(QStandardItem *item);
+    void untrack(const QStandardItem *item);
+    void fileAnnounced(Row &row);
     void trackRows(int first, int last);
     void untrackRows(int first, int last);
     void refileRows(int first, int last);
     void trackAnew();
+    void inherit(Row &row, const Row &old);
     void beginChange();
     void endChange();
-    void clear();
 
     QStandardItemModel *m_model = nullptr;
-    std::unordered_map<const QStandardItem *, Row> m_rows; ///< rows stay where they are in memory
-    QHash<size_t, Group> m_keys; ///< by the hashes of the keys, which are not copied
+    std::deque<Row> m_rows; ///< they stay where they are in memory
+    QList<Row *> m_freeRows;
+    QHash<const QStandardItem *, Row *> m_rowsOfItems;
+    bool m_filesItems = false;
+    QHash<size_t, Row *> m_keys; ///< by the hashes of the keys, which are not copied
     UsageKeys m_usageKeys;
     Stations m_stations;
     Stations::value_type *m_lastStation = nullptr; ///< under which a row was filed last
