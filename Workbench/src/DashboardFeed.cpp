@@ -61,6 +61,9 @@ void DashboardFeed::takeStates(bool areKnown)
 
 void DashboardFeed::takeAll()
 {
+    // A server of its own is known by its address alone until it welcomes.
+    if (!m_link.site().name.isEmpty())
+        m_window.setSiteName(m_link.site().name);
     showConnection();
     showTime();
     showStations();

@@ -81,7 +81,6 @@ DashboardWindow::DashboardWindow(QQmlEngine &engine, QObject &plugin, const QStr
     QSurfaceFormat smooth = requestedFormat();
     smooth.setSamples(SmoothingSamples);
     setFormat(smooth);
-    setTitle(tr("%1 - system monitor").arg(siteName));
     setResizeMode(QQuickView::SizeRootObjectToView);
     setMinimumSize(MinimumSize);
     resize(UsualSize);
@@ -90,11 +89,18 @@ DashboardWindow::DashboardWindow(QQmlEngine &engine, QObject &plugin, const QStr
     setSource(source);
     if (status() != QQuickView::Ready)
         refuse(source, errors());
+    setSiteName(siteName);
     rootObject()->setProperty("clipboard", QVariant::fromValue<QObject *>(&m_clipboard));
     QQmlProperty(rootObject(), QStringLiteral("dark"))
         .connectNotifySignal(this, SLOT(announceDark()));
     QQmlProperty(rootObject(), QStringLiteral("zoom"))
         .connectNotifySignal(this, SLOT(announceZoom()));
+}
+
+void DashboardWindow::setSiteName(const QString &siteName)
+{
+    setTitle(tr("%1 - system monitor").arg(siteName));
+    rootObject()->setProperty("siteName", siteName);
 }
 
 void DashboardWindow::setConnection(bool isConnected, const QDateTime &since)

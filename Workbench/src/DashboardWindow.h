@@ -27,10 +27,13 @@ public:
     ///
     /// @param engine   must outlive the window
     /// @param plugin   the initialised plug-in, which must outlive the window
-    /// @param siteName shown as the site's name
+    /// @param siteName shown as the site's name, until setSiteName() is called
     /// @param source   an item with the properties that are set here
     DashboardWindow(QQmlEngine &engine, QObject &plugin, const QString &siteName,
                     const QUrl &source = dashboardUrl());
+
+    /// Gives the dashboard and the window's title the site's name.
+    void setSiteName(const QString &siteName);
 
     /// Tells the dashboard whether the server is connected, and since when that is so.
     void setConnection(bool isConnected, const QDateTime &since);

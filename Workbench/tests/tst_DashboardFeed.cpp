@@ -22,6 +22,7 @@ private Q_SLOTS:
     void cleanup();
 
     void showsTheConnectionAtOnce();
+    void tellsTheNameThatTheServerGives();
     void followsTheConnection();
     void tellsWhyThereIsNoConnection();
     void tellsTheTimeOfTheServer();
@@ -108,6 +109,16 @@ void tst_DashboardFeed::showsTheConnectionAtOnce()
     QCOMPARE(shown("serverConnected").toBool(), false);
     QCOMPARE(shown("connectionSince").toDateTime(), m_link->since());
     QCOMPARE(shownStations(), QStringList());
+}
+
+void tst_DashboardFeed::tellsTheNameThatTheServerGives()
+{
+    QCOMPARE(shown("siteName").toString(), QString());
+    m_link->open();
+    QCOMPARE(shown("siteName").toString(), QStringLiteral("Test site"));
+    QCOMPARE(m_window->title(), QStringLiteral("Test site - system monitor"));
+    m_link->close();
+    QCOMPARE(shown("siteName").toString(), QStringLiteral("Test site"));
 }
 
 void tst_DashboardFeed::followsTheConnection()
