@@ -164,9 +164,9 @@ void ErrorIndex::trackAnew()
     const auto oldRows = std::exchange(m_rows, {});
     const auto rowsOfOldItems = std::exchange(m_rowsOfItems, {});
     clear();
-    // The coming of a row that is here already may be told only after this.
-    m_filesItems = m_changes > 0 || m_model->rowCount() > 0;
-    const QStandardItem *announced = std::exchange(m_announcedItem, nullptr);
+    // In mid-change, the coming of a row that is here already may be told only after this.
+    m_filesItems = m_changes > 0;
+    const QStandardItem *announced = m_announcedItem;
     for (int row = 0; row < m_model->rowCount(); ++row) {
         // The item that a bare row gets may have the address of one that was deleted.
         const bool wasBare = !m_model->item(row);
@@ -178,7 +178,6 @@ void ErrorIndex::trackAnew()
             inherit(*rowOfItem(item), *old);
     }
     // Last, since it may take a key over.
-    m_announcedItem = announced;
     if (Row *row = announced ? rowOfItem(announced) : nullptr)
         fileAnnounced(*row);
 }

@@ -12,8 +12,9 @@ QStringList errorListText(const QAbstractItemModel &list)
             roles.insert(QString::fromLatin1(role.value()), role.key());
     }
     QStringList lines;
+    QStringList fields;
     for (int row = 0; row < list.rowCount(); ++row) {
-        QStringList fields;
+        fields.clear();
         for (auto role = roles.cbegin(); role != roles.cend(); ++role)
             fields.append(role.key() + u'=' + list.index(row, 0).data(role.value()).toString());
         lines.append(fields.join(QStringLiteral("; ")));

@@ -54,7 +54,7 @@ OperationalLogStore::OperationalLogStore(const QString &fileName)
     , m_connectionName(QUuid::createUuid().toString())
 {
     m_commitDue.setSingleShot(true);
-    QObject::connect(&m_commitDue, &QTimer::timeout, [this] { commit(); });
+    QObject::connect(&m_commitDue, &QTimer::timeout, &m_commitDue, [this] { commit(); });
     if (!fileName.isEmpty())
         QDir().mkpath(QFileInfo(fileName).absolutePath());
     try {

@@ -62,17 +62,17 @@ void PluginHost::initialise(QQmlContext *context, Framework &framework)
         throw HostError(tr("%1: the plug-in failed to initialise").arg(m_fileName));
 }
 
-void PluginHost::pair()
+void PluginHost::pair() const
 {
     plugin()->LoadPairPluginDone();
 }
 
-void PluginHost::serverConnected()
+void PluginHost::serverConnected() const
 {
     plugin()->PluginServerConnected();
 }
 
-void PluginHost::serverDisconnected()
+void PluginHost::serverDisconnected() const
 {
     plugin()->PluginServerDisconnected();
 }

@@ -43,10 +43,10 @@ public:
     void initialise(QQmlContext *context, Framework &framework);
 
     /// Tells the plug-in that those that it pairs with are there.
-    void pair();
+    void pair() const;
 
-    void serverConnected();
-    void serverDisconnected();
+    void serverConnected() const;
+    void serverDisconnected() const;
 
     /// Answers what the plug-in has asked, so that it can let go of it, and deletes the plug-in.
     /// The library stays loaded, because values with its texts may live on.

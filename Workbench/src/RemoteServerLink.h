@@ -69,7 +69,7 @@ private:
 
     void take(const QString &text);
     void take(const ServerMessage::Welcome &welcome);
-    void take(const ServerMessage::Refused &refused);
+    void take(const ServerMessage::Refused &refusal);
     void take(const ServerMessage::Result &result);
     void take(const ServerMessage::NodeStatus &status);
     void take(const ServerMessage::CameraRemoved &removed);

@@ -19,14 +19,13 @@ ReplayRun::ReplayRun(JournalPlayer &player, const Journal &journal, QTextStream 
 
 int ReplayRun::exec()
 {
-    int failedLine = 0;
     QObject::connect(&m_player, &JournalPlayer::finished, &m_player, [this] {
         m_code = writeOutcome();
         if (!m_lasts)
             QCoreApplication::quit();
     });
-    QObject::connect(&m_player, &JournalPlayer::failed, &m_player, [&failedLine](int line) {
-        failedLine = line;
+    QObject::connect(&m_player, &JournalPlayer::failed, &m_player, [this](int line) {
+        m_failedLine = line;
         QCoreApplication::quit();
     });
     std::optional<RunProgress> progress;
@@ -36,9 +35,9 @@ int ReplayRun::exec()
     QCoreApplication::exec();
     progress.reset();
     m_player.finish();
-    if (failedLine > 0)
+    if (m_failedLine > 0)
         throw InputError(tr("%1: line %2: expected a change that fits the topology")
-                             .arg(m_journal.fileName, QString::number(failedLine)));
+                             .arg(m_journal.fileName, QString::number(m_failedLine)));
     return m_code;
 }
 

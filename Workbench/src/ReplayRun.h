@@ -32,6 +32,7 @@ private:
     QTextStream &m_out;
     const bool m_lasts;
     int m_code = 0;
+    int m_failedLine = 0; ///< of the journal; 0 while none failed
 };
 
 #endif
