@@ -51,6 +51,7 @@ private Q_SLOTS:
     void replacedMonitorIsReleased();
     void replacedMonitorHeldElsewhereIsStillRelayed();
     void monitorInstalledTwiceIsRelayedTwice();
+    void monitorMayBeTakenAway();
     void resourceModelIsHandedOut();
 
     void capacityWarningIsPassedOn_data();
@@ -435,6 +436,14 @@ void tst_PluginSystemMonitor_EvtHandler::monitorInstalledTwiceIsRelayedTwice()
     hosted.plugin.setSystemResourceMonitor(monitor);
     Q_EMIT monitor->resourceChanged(1, 2, {});
     QCOMPARE(hosted.log.take(), QStringList(2, u"clientResourceChanged(1, 2)"_s));
+}
+
+void tst_PluginSystemMonitor_EvtHandler::monitorMayBeTakenAway()
+{
+    HostedPlugin hosted;
+    hosted.plugin.setSystemResourceMonitor({});
+    QVERIFY(!hosted.plugin.resourceMonitor);
+    QCOMPARE(hosted.log.take(), QStringList());
 }
 
 void tst_PluginSystemMonitor_EvtHandler::resourceModelIsHandedOut()

@@ -49,6 +49,7 @@ private Q_SLOTS:
     void reportSentByAWatcherKeepsTheLayout();
     void historyThatOthersEmptiedGrowsAgain();
     void bareResourceRowIsFilled();
+    void resourceModelWithoutColumnsStaysAsItIs();
     void samplerMayBeReplacedByItsWatcher();
 
     void everythingIsHarmlessBeforeInitialisation();
@@ -571,6 +572,16 @@ void tst_PluginSystemMonitor_Reentrancy::bareResourceRowIsFilled()
     // A row without a type counts as the CPU's.
     QCOMPARE(model->index(3, 0).data(SystemResourceModelItem::UsageListRole).toList(),
              QVariantList{10});
+}
+
+void tst_PluginSystemMonitor_Reentrancy::resourceModelWithoutColumnsStaysAsItIs()
+{
+    HostedPlugin hosted;
+    QStandardItemModel *const model = hosted.plugin.resourceModelControl->model();
+    model->removeColumn(0);
+    hosted.event(u"SystemResChanged"_s, report(10, {}));
+    QCOMPARE(model->rowCount(), 3);
+    QCOMPARE(model->columnCount(), 0);
 }
 
 void tst_PluginSystemMonitor_Reentrancy::samplerMayBeReplacedByItsWatcher()
