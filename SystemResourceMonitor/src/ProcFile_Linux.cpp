@@ -14,10 +14,10 @@ namespace {
 // More than a kernel tells of some dozens of processors, so that one buffer does.
 constexpr qsizetype BufferSize = 16384;
 
-bool isBlank(char letter)
-{
+// A closure, which searches inline; a function they would call for every letter.
+constexpr auto isBlank = [](char letter) {
     return letter == ' ' || (letter >= '\t' && letter <= '\r');
-}
+};
 
 ProcFile::Words split(std::string_view line)
 {
@@ -80,11 +80,9 @@ std::optional<ProcFile::Words> ProcFile::wordsAfter(std::string_view name) const
         // Nearly every line differs in the first letter, which is cheaper to compare than a name.
         if (line.empty() || line.front() != name.front() || !line.starts_with(name))
             continue;
-        Words words = split(line);
-        if (words.first() != name)
-            continue;
-        words.erase(words.begin());
-        return words;
+        const std::string_view rest = line.substr(name.size());
+        if (rest.empty() || isBlank(rest.front()))
+            return split(rest);
     }
     return std::nullopt;
 }
