@@ -112,7 +112,8 @@ void ErrorIndex::fileUnderKey(Row &row, const QString &key)
 
 ErrorIndex::Row *ErrorIndex::rowOfKey(const QString &key) const
 {
-    Row *row = m_keys.value(qHash(key));
+    const auto first = m_keys.find(qHash(key));
+    Row *row = first != m_keys.end() ? first->second : nullptr;
     while (row && row->key != key)
         row = row->nextOfHash;
     return row;
@@ -124,11 +125,11 @@ void ErrorIndex::dropKey(Row &row)
         return;
     row.isKeyed = false;
     const auto first = m_keys.find(qHash(row.key));
-    Row **link = &*first;
+    Row **link = &first.value();
     while (*link != &row)
         link = &(*link)->nextOfHash;
     *link = row.nextOfHash;
-    if (!*first)
+    if (!first->second)
         m_keys.erase(first);
     m_usageKeys.remove(row.key);
 }
@@ -252,7 +253,7 @@ void ErrorIndex::clear()
     m_freeRows.clear();
     m_rowsOfItems.clear();
     m_filesItems = false;
-    m_keys.clear();
+    m_keys = {};
     m_usageKeys.clear();
     m_stations.clear();
     m_lastStation = nullptr;

@@ -10,6 +10,8 @@
 #include <QObject>
 #include <QString>
 
+#include <tsl/hopscotch_map.h>
+
 #include <deque>
 #include <map>
 #include <unordered_map>
@@ -126,7 +128,7 @@ private:
     void countChanges();
     void followRows();
     QStandardItem *itemOfRow(int row) const;
-    void track(QStandardItem *item);
+    Row &track(QStandardItem *item);
     void untrack(const QStandardItem *item);
     void fileAnnounced(Row &row);
     void trackRows(int first, int last);
@@ -142,7 +144,7 @@ private:
     QList<Row *> m_freeRows;
     QHash<const QStandardItem *, Row *> m_rowsOfItems;
     bool m_filesItems = false;
-    QHash<size_t, Row *> m_keys; ///< by the hashes of the keys, which are not copied
+    tsl::hopscotch_map<size_t, Row *> m_keys; ///< by the hashes of the keys, which are not copied
     UsageKeys m_usageKeys;
     Stations m_stations;
     Stations::value_type *m_lastStation = nullptr; ///< under which a row was filed last

@@ -82,7 +82,7 @@ QStandardItem *ErrorIndex::itemOfRow(int row) const
     return m_model->itemFromIndex(m_model->index(row, 0));
 }
 
-void ErrorIndex::track(QStandardItem *item)
+ErrorIndex::Row &ErrorIndex::track(QStandardItem *item)
 {
     // Rows are filed under their items whenever one may be tracked twice.
     Row *row = m_filesItems ? rowOfItem(item) : nullptr;
@@ -94,6 +94,7 @@ void ErrorIndex::track(QStandardItem *item)
     row->age = ++m_newestAge;
     if (item == m_announcedItem)
         fileAnnounced(*row);
+    return *row;
 }
 
 void ErrorIndex::fileAnnounced(Row &row)
@@ -152,8 +153,8 @@ void ErrorIndex::endChange()
 {
     m_changes = qMax(0, m_changes - 1);
     if (m_tracksDoomed && m_changes == 0) {
-        m_tracksDoomed = false;
         trackAnew();
+        fileItems(); // the coming of a row that is here already is told only after this
     }
 }
 
@@ -167,19 +168,22 @@ void ErrorIndex::trackAnew()
     // In mid-change, the coming of a row that is here already may be told only after this.
     m_filesItems = m_changes > 0;
     const QStandardItem *announced = m_announcedItem;
+    Row *announcedRow = nullptr;
     for (int row = 0; row < m_model->rowCount(); ++row) {
         // The item that a bare row gets may have the address of one that was deleted.
         const bool wasBare = !m_model->item(row);
         QStandardItem *item = itemOfRow(row);
         if (!item)
             continue;
-        track(item);
+        Row &tracked = track(item);
         if (const Row *old = wasBare ? nullptr : rowsOfOldItems.value(item))
-            inherit(*rowOfItem(item), *old);
+            inherit(tracked, *old);
+        if (item == announced)
+            announcedRow = &tracked;
     }
     // Last, since it may take a key over.
-    if (Row *row = announced ? rowOfItem(announced) : nullptr)
-        fileAnnounced(*row);
+    if (announcedRow)
+        fileAnnounced(*announcedRow);
 }
 
 void ErrorIndex::inherit(Row &row, const Row &old)

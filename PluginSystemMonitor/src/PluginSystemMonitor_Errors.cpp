@@ -23,6 +23,13 @@ qsizetype endOfParentStationID(const QString &deviceID)
     return deviceID.lastIndexOf(QLatin1Char('/'));
 }
 
+/// Sets a text, or keeps an equal one: the rows of a storm have many in common.
+void share(QVariant &value, const QString &text)
+{
+    if (text.isEmpty() || value.toString() != text)
+        value.setValue(text);
+}
+
 } // namespace
 
 QString getParentStationID(const QString &deviceID)
@@ -251,10 +258,10 @@ void PluginSystemMonitor::appendError(ErrorCategory category, ErrorType type, co
     auto value = errorRecord.begin();
     (value++)->setValue(deviceID);
     (value++)->setValue(static_cast<int>(category));
-    (value++)->setValue(getErrorName(type));
+    share(*value++, getErrorName(type));
     (value++)->setValue(static_cast<int>(type));
     (value++)->setValue(key);
-    (value++)->setValue(stationID);
+    share(*value++, stationID);
     (value++)->setValue(QDateTime::currentMSecsSinceEpoch());
     (value++)->setValue(triggerDeviceName);
     appendSystemErrorModel(key, SystemErrorItemBuilder::create(errorRecord));

@@ -65,6 +65,8 @@ private Q_SLOTS:
     void systemErrorHasItsRecord();
     void cameraErrorHasItsRecord_data();
     void cameraErrorHasItsRecord();
+    void recordHasNothingOfTheOneBefore();
+    void equalTextsOfErrorsAreShared();
     void storageErrorHasItsRecord();
     void errorCarriesTheTimeOfItsRaising_data();
     void errorCarriesTheTimeOfItsRaising();
@@ -102,22 +104,18 @@ class LeavingKeys
 {
 public:
     explicit LeavingKeys(const HostedPlugin &hosted)
-        : m_connection(QObject::connect(hosted.plugin.errorModel,
-                                        &QAbstractItemModel::rowsAboutToBeRemoved,
-                                        [this, &hosted](const QModelIndex &, int first, int last) {
-                                            for (int row = first; row <= last; ++row)
-                                                keys.append(hosted.errorKeys().at(row));
-                                        }))
-    { }
-    ~LeavingKeys() { QObject::disconnect(m_connection); }
-
-    LeavingKeys(const LeavingKeys &) = delete;
-    LeavingKeys &operator=(const LeavingKeys &) = delete;
+    {
+        QObject::connect(hosted.plugin.errorModel, &QAbstractItemModel::rowsAboutToBeRemoved,
+                         &m_listener, [this, &hosted](const QModelIndex &, int first, int last) {
+                             for (int row = first; row <= last; ++row)
+                                 keys.append(hosted.errorKeys().at(row));
+                         });
+    }
 
     QStringList keys;
 
 private:
-    QMetaObject::Connection m_connection;
+    QObject m_listener;
 };
 
 // A row that holds no more than its key.
@@ -686,6 +684,33 @@ void tst_PluginSystemMonitor_Errors::cameraErrorHasItsRecord()
     hosted.plugin.addCameraError(device, type, origin);
     QCOMPARE(hosted.errorRows(), QStringList{row});
     QVERIFY(hosted.plugin.lists(type, device));
+}
+
+void tst_PluginSystemMonitor_Errors::recordHasNothingOfTheOneBefore()
+{
+    HostedPlugin hosted;
+    hosted.plugin.addCameraError(u"st1/cam1"_s, CameraDisconnected, u"Hall"_s);
+    hosted.plugin.addCameraError(u"st2/cam1"_s, HighCpuUsage, u"Yard"_s);
+    hosted.plugin.addCameraError(u"cam"_s, HighCpuUsage, u"Roof"_s);
+    QCOMPARE(hosted.errorRows(),
+             QStringList({u"\"3_st1/cam1\" station \"st1\" device \"st1/cam1\" type 3 category 2 "
+                          "name \"Camera disconnected\" from \"Hall\""_s,
+                          u"\"0_st2/cam1\" station \"st2\" device \"st2/cam1\" type 0 category 2 "
+                          "name \"CPU utilization over 90%\" from \"Yard\""_s,
+                          u"\"0_cam\" station \"\" device \"cam\" type 0 category 2 "
+                          "name \"CPU utilization over 90%\" from \"Roof\""_s}));
+}
+
+void tst_PluginSystemMonitor_Errors::equalTextsOfErrorsAreShared()
+{
+    HostedPlugin hosted;
+    for (const QString &camera : {u"st1/cam1"_s, u"st1/cam2"_s})
+        hosted.plugin.addCameraError(camera, CameraDisconnected, u"Hall"_s);
+    const auto text = [&](int row, int role) {
+        return hosted.plugin.errorModel->index(row, 0).data(role).toString();
+    };
+    for (const int role : {SystemErrorModel::StationIDRole, SystemErrorModel::ErrorNameRole})
+        QVERIFY(text(0, role).isSharedWith(text(1, role)));
 }
 
 void tst_PluginSystemMonitor_Errors::storageErrorHasItsRecord()
