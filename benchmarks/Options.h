@@ -23,10 +23,10 @@ struct Options
     QStringList benchmarks; ///< the names of the benchmarks to run; all when empty
     QList<int> sizes;       ///< the values of N, ascending
     QList<MeasuredPlugin> plugins;
-    int runs;             ///< how often a timed part is repeated at most
-    double budgetSeconds; ///< how long a timed part may be expected to take
-    double idleSeconds;   ///< how long an idle plug-in is watched
-    QString outputFile;   ///< where the tables go besides the terminal; may be empty
+    int runs = 0;             ///< how often a timed part is repeated at most
+    double budgetSeconds = 0; ///< how long a timed part may be expected to take
+    double idleSeconds = 0;   ///< how long an idle plug-in is watched
+    QString outputFile;       ///< where the tables go besides the terminal; may be empty
 };
 
 #endif

@@ -33,7 +33,7 @@ public:
 
 private:
     int m_descriptor;
-    std::array<char, 16384> m_content;
+    std::array<char, 16384> m_content = {};
 };
 
 } // namespace

@@ -18,10 +18,10 @@ struct Scenario
 {
     using Run = double (*)(const Setting &setting);
 
-    const char *name; ///< one letter
-    const char *title;
-    Run plugin;
-    Run floor;
+    const char *name = nullptr; ///< one letter
+    const char *title = nullptr;
+    Run plugin = nullptr;
+    Run floor = nullptr;
     int fixedSize = 0; ///< the only size it is run at; 0 for all sizes
 };
 

@@ -14,7 +14,7 @@ namespace {
 // Repetitions end when they have taken this long.
 constexpr double EnoughMilliseconds = 2000;
 
-const std::array AllScenarios = {
+constexpr std::array AllScenarios = {
     &StartUpWalkConnected, &StartUpWalkDisconnected, &CamerasGoDown,
     &CamerasComeBack,      &ServerDisconnects,       &TextFilter,
     &StationsRemoved,      &ResourceReports,         &StationCounts,

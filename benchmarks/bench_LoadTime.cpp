@@ -17,9 +17,9 @@ namespace {
 
 struct LoadTime
 {
-    double load;       ///< reading the metadata, mapping the file, its static objects
-    double instance;   ///< creating the plug-in object
-    double initialise; ///< InitialPluginBase()
+    double load = 0;       ///< reading the metadata, mapping the file, its static objects
+    double instance = 0;   ///< creating the plug-in object
+    double initialise = 0; ///< InitialPluginBase()
 
     double total() const { return load + instance + initialise; }
 };

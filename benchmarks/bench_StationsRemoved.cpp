@@ -50,8 +50,8 @@ double bareRemoveStations(const Setting &setting)
     const StopWatch watch;
     for (const int station : order) {
         const QList<QStandardItem *> &items = stations.at(station);
-        for (auto item = items.crbegin(); item != items.crend(); ++item)
-            errors.remove(*item);
+        for (qsizetype i = items.size() - 1; i >= 0; --i)
+            errors.remove(items.at(i));
     }
     const double milliseconds = watch.milliseconds();
 

@@ -17,6 +17,7 @@
 #include <QTest>
 #include <QTranslator>
 #include <functional>
+#include <string_view>
 
 Q_IMPORT_QML_PLUGIN(DashboardPlugin)
 
@@ -79,13 +80,18 @@ void fillAndWarnOfMany(QQuickView &view, FakePlugin &plugin)
     QTest::keyClick(&view, Qt::Key_Down);
 }
 
+void searchFor(QQuickView &view, std::string_view text)
+{
+    QTest::keyClick(&view, Qt::Key_F, Qt::ControlModifier);
+    for (const char letter : text)
+        QTest::keyClick(&view, letter);
+    QTest::keyClick(&view, Qt::Key_Return);
+}
+
 void fillAndFilterAway(QQuickView &view, FakePlugin &plugin)
 {
     fill(view, plugin);
-    QTest::keyClick(&view, Qt::Key_F, Qt::ControlModifier);
-    for (const QChar &letter : QStringLiteral("gate 9"))
-        QTest::keyClick(&view, letter.toLatin1());
-    QTest::keyClick(&view, Qt::Key_Return);
+    searchFor(view, "gate 9");
 }
 
 void fillAndSelect(QQuickView &view, FakePlugin &plugin)
@@ -177,10 +183,7 @@ void fillAndShowLog(QQuickView &view, FakePlugin &plugin)
 void searchInVain(QQuickView &view, FakePlugin &plugin)
 {
     fillAndShowLog(view, plugin);
-    QTest::keyClick(&view, Qt::Key_F, Qt::ControlModifier);
-    for (const QChar &letter : QStringLiteral("gate 9"))
-        QTest::keyClick(&view, letter.toLatin1());
-    QTest::keyClick(&view, Qt::Key_Return);
+    searchFor(view, "gate 9");
 }
 
 void fillAndExport(QQuickView &view, FakePlugin &plugin)
@@ -366,7 +369,7 @@ bool draw(const Scene &scene, const QDir &folder)
         {QStringLiteral("siteName"), QStringLiteral("Harbour North")},
         {QStringLiteral("serverConnected"), scene.connected},
         {QStringLiteral("connectionSince"),
-         QDateTime::fromMSecsSinceEpoch(SampleSite::now() - 5 * 60 * 1000)},
+         QDateTime::fromMSecsSinceEpoch(SampleSite::now() - 300'000)},
         {QStringLiteral("stations"), SampleSite::stations(scene.well)},
         {QStringLiteral("files"), QVariant::fromValue<QObject *>(&files)},
     };
@@ -374,11 +377,11 @@ bool draw(const Scene &scene, const QDir &folder)
         properties.insert(QStringLiteral("connectionFailure"),
                           QStringLiteral("Connection refused"));
         properties.insert(QStringLiteral("nextAttempt"),
-                          QDateTime::fromMSecsSinceEpoch(SampleSite::now() + 12 * 1000));
+                          QDateTime::fromMSecsSinceEpoch(SampleSite::now() + 12'000));
     }
     if (scene.statesKnown) {
         properties.insert(QStringLiteral("statesSince"),
-                          QDateTime::fromMSecsSinceEpoch(SampleSite::now() - 5 * 60 * 1000));
+                          QDateTime::fromMSecsSinceEpoch(SampleSite::now() - 300'000));
     }
     if (scene.offers) {
         properties.insert(QStringLiteral("operationalLog"), QVariant::fromValue<QObject *>(&log));

@@ -105,6 +105,18 @@ private:
     bool m_answer;
 };
 
+/// The names of objects, in the order in which they are destroyed.
+class Departures : public QObject
+{
+public:
+    void watch(const QObject *object, const QString &name)
+    {
+        connect(object, &QObject::destroyed, this, [this, name] { names.append(name); });
+    }
+
+    QStringList names;
+};
+
 } // namespace
 
 void tst_PluginSystemMonitor::init()
@@ -587,23 +599,20 @@ void tst_PluginSystemMonitor::destructionReleasesWhatThePluginOwns()
 
 void tst_PluginSystemMonitor::destructionGoesBackThroughTheMembers()
 {
-    QStringList gone;
+    Departures departures;
     {
         TestedPlugin plugin;
         QVERIFY(plugin.Init(nullptr));
-        const auto watch = [this, &gone](const QObject *member, const QString &name) {
-            connect(member, &QObject::destroyed, this, [&gone, name] { gone.append(name); });
-        };
-        watch(plugin.errorModel, u"error list"_s);
-        watch(plugin.resourceModelControl.data(), u"resources"_s);
-        watch(&plugin.indexMap, u"index"_s);
-        watch(&plugin.stationErrorNumberTimer, u"count timer"_s);
-        watch(&plugin.initNodeStatusTimer, u"walk timer"_s);
-        watch(plugin.resourceMonitor.data(), u"monitor"_s);
+        departures.watch(plugin.errorModel, u"error list"_s);
+        departures.watch(plugin.resourceModelControl.data(), u"resources"_s);
+        departures.watch(&plugin.indexMap, u"index"_s);
+        departures.watch(&plugin.stationErrorNumberTimer, u"count timer"_s);
+        departures.watch(&plugin.initNodeStatusTimer, u"walk timer"_s);
+        departures.watch(plugin.resourceMonitor.data(), u"monitor"_s);
     }
     // The list is the plug-in's child: children go when the members are gone.
-    QCOMPARE(gone, QStringList({u"monitor"_s, u"walk timer"_s, u"count timer"_s, u"index"_s,
-                                u"resources"_s, u"error list"_s}));
+    QCOMPARE(departures.names, QStringList({u"monitor"_s, u"walk timer"_s, u"count timer"_s,
+                                            u"index"_s, u"resources"_s, u"error list"_s}));
 }
 
 void tst_PluginSystemMonitor::destructionLeavesTheHostsObjectsAlone()

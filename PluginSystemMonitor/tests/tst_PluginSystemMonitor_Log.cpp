@@ -47,7 +47,7 @@ void operation()
 
 void operationThatThrows()
 {
-    const EntryLog entryLog = traceEntry("operationThatThrows");
+    [[maybe_unused]] const EntryLog entryLog = traceEntry("operationThatThrows");
     throw std::runtime_error("failed");
 }
 

@@ -372,17 +372,17 @@ void tst_PluginSystemMonitor_Reentrancy::errorRaisedDuringItsRemovalStays()
 {
     HostedPlugin hosted;
     QObject owner;
-    auto *view =
-        qobject_cast<QAbstractItemModel *>(hosted.plugin.getSystemErrorSortFilterModel(&owner));
+    const auto &view =
+        *qobject_cast<QAbstractItemModel *>(hosted.plugin.getSystemErrorSortFilterModel(&owner));
     Q_EMIT hosted.topology.nodeStatusChanged(0, u"st1/cam1"_s, false);
-    QCOMPARE(view->rowCount(), 1);
-    const auto watch = connect(view, &Model::rowsRemoved, this, [&] {
+    QCOMPARE(view.rowCount(), 1);
+    const auto watch = connect(&view, &Model::rowsRemoved, &view, [&] {
         Q_EMIT hosted.topology.nodeStatusChanged(0, u"st1/cam1"_s, false);
     });
     Q_EMIT hosted.topology.nodeStatusChanged(0, u"st1/cam1"_s, true);
     disconnect(watch);
     QCOMPARE(hosted.errorKeys(), QStringList{u"3_st1/cam1"_s});
-    QCOMPARE(view->rowCount(), 1);
+    QCOMPARE(view.rowCount(), 1);
     QCOMPARE(disagreement(hosted.plugin), QString());
 }
 
@@ -536,16 +536,16 @@ void tst_PluginSystemMonitor_Reentrancy::resourceRowRemovedByAWatcherIsLeftAlone
 void tst_PluginSystemMonitor_Reentrancy::reportSentByAWatcherKeepsTheLayout()
 {
     HostedPlugin hosted;
-    QStandardItemModel *const model = hosted.plugin.resourceModelControl->model();
-    const QAbstractItemModelTester tester(model);
+    QStandardItemModel &model = *hosted.plugin.resourceModelControl->model();
+    const QAbstractItemModelTester tester(&model);
     bool isFirst = true;
-    connect(model, &Model::dataChanged, this, [&] {
+    connect(&model, &Model::dataChanged, &model, [&] {
         if (std::exchange(isFirst, false))
             hosted.event(u"SystemResChanged"_s, report(10, twoNetworks));
     });
     hosted.event(u"SystemResChanged"_s, report(20, twoNetworks));
-    QCOMPARE(resourceTypes(*model), QList<int>({0, 1, 2, 2}));
-    QVERIFY(isWellLaidOut(*model));
+    QCOMPARE(resourceTypes(model), QList<int>({0, 1, 2, 2}));
+    QVERIFY(isWellLaidOut(model));
 }
 
 void tst_PluginSystemMonitor_Reentrancy::historyThatOthersEmptiedGrowsAgain()

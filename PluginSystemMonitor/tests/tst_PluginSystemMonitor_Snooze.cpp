@@ -531,7 +531,7 @@ void tst_PluginSystemMonitor_Snooze::refusedLogEntryIsOfNoAccount()
     hosted.operationalLog.accepts = false;
     const CollectedTrace trace;
     hosted.respond(u"setSnooze"_s, requestOf(u"st1"_s, 4, 0));
-    QCOMPARE(hosted.log.take().first(), u"setSnoozeResponse(true)"_s);
+    QCOMPARE(hosted.log.take().constFirst(), u"setSnoozeResponse(true)"_s);
     QCOMPARE(trace.lines(), QStringList());
 }
 

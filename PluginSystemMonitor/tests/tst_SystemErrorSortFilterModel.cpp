@@ -230,18 +230,13 @@ void tst_SystemErrorSortFilterModel::maskShowsItsCategories_data()
 {
     QTest::addColumn<int>("mask");
     QTest::addColumn<QStringList>("shown");
-    const QString none = u"none"_s;
-    const QString system = u"system"_s;
-    const QString camera = u"camera"_s;
-    const QString both = u"both"_s;
-    const QString negative = u"negative"_s;
-    QTest::newRow("both") << 3 << QStringList{negative, both, camera, system};
-    QTest::newRow("system") << 1 << QStringList{negative, both, system};
-    QTest::newRow("camera") << 2 << QStringList{negative, both, camera};
+    QTest::newRow("both") << 3 << QStringList{u"negative"_s, u"both"_s, u"camera"_s, u"system"_s};
+    QTest::newRow("system") << 1 << QStringList{u"negative"_s, u"both"_s, u"system"_s};
+    QTest::newRow("camera") << 2 << QStringList{u"negative"_s, u"both"_s, u"camera"_s};
     QTest::newRow("none") << 0 << QStringList();
-    QTest::newRow("foreign bit") << 4 << QStringList{negative};
+    QTest::newRow("foreign bit") << 4 << QStringList{u"negative"_s};
     // -1 & -1 is negative, and what is not above 0 does not show.
-    QTest::newRow("all bits") << -1 << QStringList{both, camera, system};
+    QTest::newRow("all bits") << -1 << QStringList{u"both"_s, u"camera"_s, u"system"_s};
     QTest::newRow("sign bit alone") << std::numeric_limits<int>::min() << QStringList();
 }
 

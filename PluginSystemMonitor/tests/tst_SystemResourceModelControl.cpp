@@ -93,7 +93,11 @@ public:
     }
 
     /// The newest samples of a row, oldest first.
-    QString newest(int row, int count) const { return printedValue(history(row).last(count)); }
+    QString newest(int row, int count) const
+    {
+        const QVariantList samples = history(row);
+        return printedValue(samples.last(count));
+    }
 
     QString bandwidth(int row) const
     {

@@ -31,10 +31,15 @@ double sample(const QString &procRoot)
 // Finds a figure in another way than the sampler does.
 std::optional<double> figure(const QByteArray &content, const char *name)
 {
-    const QRegularExpression line(QStringLiteral("^%1: +(\\d+) kB$").arg(QLatin1String(name)),
-                                  QRegularExpression::MultilineOption);
-    const QRegularExpressionMatch match = line.match(QString::fromLatin1(content));
-    return match.hasMatch() ? std::optional(match.captured(1).toDouble()) : std::nullopt;
+    static const QRegularExpression line(QStringLiteral("^(\\w+): +(\\d+) kB$"),
+                                         QRegularExpression::MultilineOption);
+    auto lines = line.globalMatch(QString::fromLatin1(content));
+    while (lines.hasNext()) {
+        const QRegularExpressionMatch match = lines.next();
+        if (match.captured(1) == QLatin1String(name))
+            return match.captured(2).toDouble();
+    }
+    return std::nullopt;
 }
 
 double expectedPercentage(const QByteArray &content)

@@ -43,7 +43,7 @@ void tst_MemoryUsage_Mac::init()
 {
     QTest::failOnWarning(QRegularExpression(QStringLiteral(".")));
     fakeMach() = FakeMach();
-    fakeMach().memorySize = 4096 * 1000;
+    fakeMach().memorySize = 4096'000;
     fakeMach().vm.internal_page_count = 100;
 }
 

@@ -10,6 +10,7 @@
 #include <QTimerEvent>
 
 #include <limits>
+#include <optional>
 #include <string>
 
 using SystemResourceMonitorCommon::NetworkUsage;
@@ -171,9 +172,10 @@ void tst_SystemResourceMonitor::oneCoarseTimerOfOneSecondRuns()
 void tst_SystemResourceMonitor::timerEndsWithTheMonitor()
 {
     FakeSamplers samplers;
-    auto *const monitor = new SystemResourceMonitor(samplers.factory());
-    delete monitor;
-    QVERIFY(QAbstractEventDispatcher::instance()->registeredTimers(monitor).isEmpty());
+    std::optional<SystemResourceMonitor> monitor(std::in_place, samplers.factory());
+    QObject *const address = &*monitor;
+    monitor.reset();
+    QVERIFY(QAbstractEventDispatcher::instance()->registeredTimers(address).isEmpty());
 }
 
 void tst_SystemResourceMonitor::failingSamplerIsPassedOn_data()

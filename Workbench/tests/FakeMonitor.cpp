@@ -71,7 +71,7 @@ void FakeMonitor::reconnectDisconnectCameras()
     m_log.add(QStringLiteral("reconnectDisconnectCameras"));
 }
 
-bool FakeMonitor::setSnooze(QString nodeID, qlonglong timestamp, int type)
+bool FakeMonitor::setSnooze(const QString &nodeID, qlonglong timestamp, int type)
 {
     m_log.add(QStringLiteral("setSnooze %1 %2 %3").arg(nodeID).arg(timestamp).arg(type));
     return true;

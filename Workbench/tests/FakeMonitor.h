@@ -37,7 +37,7 @@ public:
     Q_INVOKABLE bool checkSupportSystemMonitor(const QString &stationId);
     Q_INVOKABLE void reconnectDisconnectSubstations();
     Q_INVOKABLE void reconnectDisconnectCameras();
-    Q_INVOKABLE bool setSnooze(QString nodeID, qlonglong timestamp, int type);
+    Q_INVOKABLE bool setSnooze(const QString &nodeID, qlonglong timestamp, int type);
 
     void *lastContext = nullptr; ///< of the last command response
 

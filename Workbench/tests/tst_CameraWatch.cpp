@@ -104,7 +104,7 @@ void tst_CameraWatch::everyCameraIsAskedAgainAndAgain()
 {
     constexpr int Count = 5;
     watch(Count, {20ms, 5s, 2, 2});
-    QTRY_VERIFY(m_peer->requests().size() >= 3 * Count);
+    QTRY_VERIFY(m_peer->requests().size() >= qsizetype{3} * Count);
     const QList<QByteArray> requests = m_peer->requests();
     for (int i = 0; i < Count; ++i) {
         const QByteArray path = '/' + QByteArray::number(i) + ' ';

@@ -301,7 +301,7 @@ void tst_ClientSession::clientThatDoesNotReadIsDropped()
     client.sendText(Hello);
     lastText(client, 1);
     client.stopReading();
-    const QString longName(1024 * 1024, u'x');
+    const QString longName(qsizetype{1024} * 1024, u'x');
     for (int i = 0; i < 100 && m_site->gate.connectionCount() > 0; ++i) {
         m_site->server.reportReachingLimit(longName, 90);
         QCoreApplication::processEvents();

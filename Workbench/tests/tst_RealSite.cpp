@@ -31,7 +31,7 @@ public:
               "|bytes packets errs drop fifo colls carrier compressed\n"
               "  eth0: 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0\n");
         spend();
-        QObject::connect(&m_timer, &QTimer::timeout, [this] { spend(); });
+        QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this] { spend(); });
         m_timer.start(100ms);
     }
 

@@ -254,7 +254,7 @@ void tst_ServerGate::snoozesAtATimeDoNotEndTheConnection()
     qsizetype bytes = 0;
     for (const QByteArray &text : reader.texts())
         bytes += text.size();
-    QVERIFY2(bytes < 1024 * 1024, qPrintable(QString::number(bytes)));
+    QVERIFY2(bytes < qsizetype{1024} * 1024, qPrintable(QString::number(bytes)));
 }
 
 void tst_ServerGate::gateMayGoWithItsClients()

@@ -38,7 +38,7 @@ Outcome run(const QStringList &arguments)
         return outcome;
     outcome.exitCode = program.exitCode();
     outcome.errors = QString::fromUtf8(program.readAllStandardError());
-    const QRegularExpression time(
+    static const QRegularExpression time(
         QStringLiteral("^\\d{4}-\\d\\d-\\d\\d \\d\\d:\\d\\d:\\d\\d CES?T  "));
     const QStringList lines = QString::fromUtf8(program.readAllStandardOutput()).split(u'\n');
     for (QString line : lines) {
@@ -300,7 +300,7 @@ void tst_WorkbenchProgram::metricsAreServedWhileItRuns()
     QProcess program;
     program.start(QStringLiteral(WORKBENCH_PROGRAM),
                   options("--headless --format json --metrics 0 --scenario") << scenario.path());
-    const QRegularExpression address(
+    static const QRegularExpression address(
         QStringLiteral("^Metrics are at http://127.0.0.1:(\\d+)/metrics\n"));
     QString errors;
     while (!address.match(errors).hasMatch() && program.waitForReadyRead(30'000))

@@ -45,7 +45,7 @@ QList<Marker> markers(const QString &text)
         while (isDigit(text, end) && end < digits + 2)
             ++end;
         if (end > digits)
-            found.append({begin, end, text.mid(digits, end - digits).toInt()});
+            found.append({begin, end, QStringView(text).mid(digits, end - digits).toInt()});
     }
     return found;
 }

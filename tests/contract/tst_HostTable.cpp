@@ -130,7 +130,7 @@ void tst_HostTable::slot8IsLoadPairPluginDone()
 {
     TestHost host(TestHost::Initialised);
     operation<void>(host.plugin(), 8)(host.plugin());
-    QCOMPARE(host.log.take().first(), u"ask whether to skip pair wiring"_s);
+    QCOMPARE(host.log.take().constFirst(), u"ask whether to skip pair wiring"_s);
     QCOMPARE(host.framework.connections().size(), 4);
 }
 

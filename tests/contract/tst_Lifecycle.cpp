@@ -349,7 +349,7 @@ void tst_Lifecycle::topologyPluginMayBeMissing()
     host.framework.forgetPlugin(PluginID::Topology);
     host.plugin()->LoadPairPluginDone();
     QCOMPARE(host.framework.connections().size(), 4);
-    QCOMPARE(host.log.take().last(), u"find 1AA33B3D0AA047C9A202F1181284D2CD"_s);
+    QCOMPARE(host.log.take().constLast(), u"find 1AA33B3D0AA047C9A202F1181284D2CD"_s);
     QVERIFY(!walkFindsTheDownCamera(host));
 }
 

@@ -39,7 +39,7 @@ QString entryOf(TestHost &host, const QVariant &timestamp)
 {
     Q_EMIT host.topology.nodeStatusChanged(0, u"st1/cam1"_s, false);
     host.respond(u"setSnooze"_s, snooze(u"st1/cam1"_s, 3, timestamp));
-    return host.log.take().last();
+    return host.log.take().constLast();
 }
 
 QString entryAt(const QString &time)
@@ -90,7 +90,7 @@ void tst_OperationalLog::entryTellsWhatTheRowShows()
     host.invoke("monitorNodeStatusForInit", 1, u"st1"_s, false, u"Named by the walk"_s);
     host.topologyModel.addStation(u"st1"_s, u"Renamed"_s);
     host.respond(u"setSnooze"_s, snooze(u"st1"_s, 4));
-    QVERIFY(host.log.take().last().contains(uR"({"param": "Named by the walk"})"_s));
+    QVERIFY(host.log.take().constLast().contains(uR"({"param": "Named by the walk"})"_s));
 }
 
 void tst_OperationalLog::timeIsLocal_data()

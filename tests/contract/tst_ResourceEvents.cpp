@@ -204,7 +204,7 @@ void tst_ResourceEvents::rulesThenModelThenSignal()
     QString history;
     observer.look = [&] {
         keys = host.errorKeys();
-        history = host.resourceRows().first().section(u"history "_s, 1);
+        history = host.resourceRows().constFirst().section(u"history "_s, 1);
     };
     connect(host.object(), SIGNAL(systemResourceChanged(int, int, QVariantList)), &observer,
             SLOT(onReport()));

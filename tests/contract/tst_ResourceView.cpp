@@ -133,11 +133,11 @@ void tst_ResourceView::historyKeepsTheLastSixtyReports()
     TestHost host;
     for (int i = 0; i < 59; ++i)
         report(host, 10, 1);
-    QCOMPARE(host.resourceRows().first(), processor(u"0 x 1, 10 x 59"_s));
+    QCOMPARE(host.resourceRows().constFirst(), processor(u"0 x 1, 10 x 59"_s));
     report(host, 10, 1);
-    QCOMPARE(host.resourceRows().first(), processor(u"10 x 60"_s));
+    QCOMPARE(host.resourceRows().constFirst(), processor(u"10 x 60"_s));
     report(host, 11, 1);
-    QCOMPARE(host.resourceRows().first(), processor(u"10 x 59, 11 x 1"_s));
+    QCOMPARE(host.resourceRows().constFirst(), processor(u"10 x 59, 11 x 1"_s));
 }
 
 void tst_ResourceView::firstListLaysTheNetworkRowsOut()
@@ -194,7 +194,7 @@ void tst_ResourceView::eachNetworkRowPassesOverTheWholeList()
     }
     report(host, 1, 2, networks);
     QCOMPARE(host.resourceRows().mid(2), rows);
-    QCOMPARE(host.resourceRows().first(), processor(u"0 x 59, 1 x 1"_s));
+    QCOMPARE(host.resourceRows().constFirst(), processor(u"0 x 59, 1 x 1"_s));
 }
 
 void tst_ResourceView::interfaceThatIsNotReportedStandsStill()
@@ -276,7 +276,7 @@ void tst_ResourceView::fractionsAreKept()
 {
     TestHost host;
     report(host, 1, 2, {interface(u"en0"_s, 49.625, 0.125)});
-    QCOMPARE(host.resourceRows().last(),
+    QCOMPARE(host.resourceRows().constLast(),
              network(u"\"en0\""_s, u"0 x 59, 49.625 x 1"_s, u"0.125"_s));
 }
 

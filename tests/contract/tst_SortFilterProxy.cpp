@@ -155,9 +155,9 @@ void tst_SortFilterProxy::newestErrorComesFirst()
     QCOMPARE(errorKeys(*makeProxy(host, &parent)), order);
 
     host.invoke("monitorVolumeStatus", u"new"_s);
-    QCOMPARE(errorKeys(*early).first(), u"5_new"_s);
+    QCOMPARE(errorKeys(*early).constFirst(), u"5_new"_s);
     host.errors()->setData(host.errors()->index(4, 0), QVariant(), ErrorRole::Timestamp);
-    QCOMPARE(errorKeys(*early).last(), u"5_new"_s);
+    QCOMPARE(errorKeys(*early).constLast(), u"5_new"_s);
 }
 
 void tst_SortFilterProxy::categoryNarrowsTheList_data()

@@ -24,11 +24,11 @@ struct TraceJournal
     /// A call of the level test.
     struct LevelTest
     {
-        void *context;
-        int moduleAndLevel; ///< the module's id above the level's eight bits
-        int zero;
+        void *context = nullptr;
+        int moduleAndLevel = 0; ///< the module's id above the level's eight bits
+        int zero = 0;
         std::string file;
-        int line;
+        int line = 0;
 
         int moduleId() const { return moduleAndLevel >> 8; }
         int level() const { return moduleAndLevel & 0xff; }

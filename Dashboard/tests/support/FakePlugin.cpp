@@ -92,7 +92,7 @@ void FakePlugin::reconnectDisconnectCameras()
     record(QStringLiteral("reconnectDisconnectCameras"));
 }
 
-bool FakePlugin::setSnooze(QString nodeID, qlonglong timestamp, int type)
+bool FakePlugin::setSnooze(const QString &nodeID, qlonglong timestamp, int type)
 {
     record(QStringLiteral("setSnooze %1 %2 %3").arg(nodeID).arg(timestamp).arg(type));
     return accepting;
@@ -144,7 +144,7 @@ void FakePlugin::addCameraErrors(int count, qint64 newest)
         const QString station = QStringLiteral("st%1").arg(i % 10);
         addError(CameraType, station, QStringLiteral("%1/cam%2").arg(station).arg(i),
                  {QStringLiteral("Station %1").arg(i % 10), QStringLiteral("Camera %1").arg(i)},
-                 newest - i * 1000);
+                 newest - qint64{1000} * i);
     }
 }
 

@@ -48,7 +48,7 @@ public:
     Q_INVOKABLE bool checkSupportSystemMonitor(const QString &stationId);
     Q_INVOKABLE void reconnectDisconnectSubstations();
     Q_INVOKABLE void reconnectDisconnectCameras();
-    Q_INVOKABLE bool setSnooze(QString nodeID, qlonglong timestamp, int type);
+    Q_INVOKABLE bool setSnooze(const QString &nodeID, qlonglong timestamp, int type);
 
     QString focusStationResource() const;
     void setFocusStationResource(const QString &stationId);
@@ -87,7 +87,7 @@ private:
     void resetUsage();
     void appendUsageRow(int type, const QString &title, const QString &subtitle, int threshold);
     void pushUsage(int row, double value);
-    void pushNetworkUsage(const QVariantMap &usage);
+    void pushNetworkUsage(const QVariantMap &network);
     QStandardItem *findError(const QString &uniqueID) const;
 
     QStandardItemModel errors;

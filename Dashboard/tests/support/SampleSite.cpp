@@ -137,7 +137,7 @@ void fillLog(FakeLog &log)
                               QStringLiteral("Stairs to the archive"),
                               QStringLiteral("Barrier, exit")};
     for (int i = 0; i < 60; ++i) {
-        const qint64 time = now() - (60 - i) * 47 * Minute;
+        const qint64 time = now() - 47 * Minute * (60 - i);
         const bool isLogin = i % 5 == 2;
         log.add(static_cast<double>(time),
                 isLogin ? QStringLiteral("Operator logged in") : QStringLiteral("Error snoozed"),
