@@ -73,10 +73,10 @@ struct ValueChange
 // The changes that the plug-in makes to its model in the course of each report of a period.
 QList<QList<ValueChange>> recordChanges(const SilentHost &host, const QVariantList &reports)
 {
-    const QStandardItemModel *model = host.resources();
+    const QStandardItemModel &model = *host.resources();
     QList<QList<ValueChange>> changes;
     const auto connection = QObject::connect(
-        model, &QAbstractItemModel::dataChanged, model,
+        &model, &QAbstractItemModel::dataChanged, &model,
         [&](const QModelIndex &index, const QModelIndex &, const QList<int> &roles) {
             changes.last().append({index.row(), roles.first(), index.data(roles.first())});
         });

@@ -111,14 +111,14 @@ struct RowChange
 QList<RowChange> recordChanges(const Setting &setting, const QList<Report> &reports)
 {
     SilentHost host(setting.pluginFile);
-    const QStandardItemModel *errors = host.errors();
+    const QStandardItemModel &errors = *host.errors();
     int current = 0;
     QList<RowChange> changes;
-    QObject::connect(errors, &QAbstractItemModel::rowsInserted, errors,
+    QObject::connect(&errors, &QAbstractItemModel::rowsInserted, &errors,
                      [&](const QModelIndex &, int first) {
-                         changes.append({current, true, first, errorRow(*errors, first)});
+                         changes.append({current, true, first, errorRow(errors, first)});
                      });
-    QObject::connect(errors, &QAbstractItemModel::rowsRemoved, errors,
+    QObject::connect(&errors, &QAbstractItemModel::rowsRemoved, &errors,
                      [&](const QModelIndex &, int first) {
                          changes.append({current, false, first, {}});
                      });

@@ -93,8 +93,8 @@ void tst_Catalogues::germanTextsHaveThePlacesOfTheirSources()
 {
     QFile file(QFINDTESTDATA("../i18n/Workbench_de.ts"));
     QVERIFY(file.open(QIODevice::ReadOnly));
-    const QRegularExpression place(QStringLiteral("%\\d"));
-    const auto places = [&place](const QString &text) {
+    static const QRegularExpression place(QStringLiteral("%\\d"));
+    const auto places = [](const QString &text) {
         QStringList found;
         auto match = place.globalMatch(text);
         while (match.hasNext())

@@ -8,6 +8,7 @@
 
 #include <QCoreApplication>
 #include <QRegularExpression>
+#include <QSignalSpy>
 #include <QTest>
 
 #include <memory>
@@ -193,14 +194,14 @@ void tst_Framework::answersWhatIsOutstandingOnRequest()
 
 void tst_Framework::commandsSentByAnAnswerAreAnswered()
 {
-    int rounds = 0;
-    connect(m_framework.get(), &Framework::commandExecuted, this, [this, &rounds] {
-        if (++rounds < 3)
+    const QSignalSpy rounds(m_framework.get(), &Framework::commandExecuted);
+    connect(m_framework.get(), &Framework::commandExecuted, this, [this, left = 2]() mutable {
+        if (left-- > 0)
             send(QStringLiteral("again"));
     });
     send(QStringLiteral("first"));
     QCoreApplication::sendPostedEvents();
-    QCOMPARE(rounds, 3);
+    QCOMPARE(rounds.size(), 3);
 }
 
 void tst_Framework::serverMayAnswerLater()

@@ -257,15 +257,15 @@ void tst_RemoteServerLink::knowsTheSnoozes()
     snooze("north");
     QVERIFY(waitUntilOpen());
     QCOMPARE(m_link->snoozes().size(), std::size_t(1));
-    std::size_t countAtEvent = 0;
+    const auto countAtEvent = std::make_shared<std::size_t>(0);
     connect(m_link.get(), &ServerLink::eventRaised, this,
-            [&] { countAtEvent = m_link->snoozes().size(); });
+            [this, countAtEvent] { *countAtEvent = m_link->snoozes().size(); });
     snooze("south");
-    QVERIFY(QTest::qWaitFor([&countAtEvent] { return countAtEvent == 2; }));
+    QVERIFY(QTest::qWaitFor([countAtEvent] { return *countAtEvent == 2; }));
     QCOMPARE(m_link->snoozes().at(1).nodeId, QStringLiteral("south"));
     QCOMPARE(m_link->snoozes().at(1).endSeconds, end);
     m_site->server.removeStation(QStringLiteral("south"));
-    QVERIFY(QTest::qWaitFor([&countAtEvent] { return countAtEvent == 1; }));
+    QVERIFY(QTest::qWaitFor([countAtEvent] { return *countAtEvent == 1; }));
 }
 
 void tst_RemoteServerLink::commandsAreAnswered()
@@ -322,7 +322,6 @@ void tst_RemoteServerLink::closedLinkStaysClosed()
 
 void tst_RemoteServerLink::missingServerIsTriedAgainAfterGrowingPauses()
 {
-    const QUrl url = m_site->gate.url();
     m_site.reset();
     m_link->open();
     for (const int pauseMs : {250, 500, 1000, 2000}) {

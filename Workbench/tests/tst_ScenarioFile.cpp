@@ -33,8 +33,8 @@ QStringList stormChanges(const char *event, quint32 seed = DefaultScenarioSeed)
         const auto &action = std::get<SetCameraConnected>(change.action);
         changes.append(QStringLiteral("%1 %2 %3")
                            .arg(change.atMs)
-                           .arg(action.cameraId)
-                           .arg(action.connected ? QStringLiteral("up") : QStringLiteral("down")));
+                           .arg(action.cameraId,
+                                action.connected ? QStringLiteral("up") : QStringLiteral("down")));
     }
     return changes;
 }
@@ -404,7 +404,7 @@ void tst_ScenarioFile::allOfTheLargeSiteFlapsForAMinute()
     QCOMPARE(site.cameraCount(), 10'000);
     const Scenario scenario =
         readScenarioFile(QStringLiteral(":/workbench/scenarios/flap.json"), site);
-    const std::size_t flapping = 60 * 1000;
+    const std::size_t flapping = 60'000;
     QCOMPARE(scenario.events.size(), 1 + flapping + 100);
     QVERIFY(std::holds_alternative<RetrieveStates>(scenario.events.front().action));
     QSet<QString> down;

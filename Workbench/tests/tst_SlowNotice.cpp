@@ -18,6 +18,7 @@ private Q_SLOTS:
 
 private:
     StatusLine line();
+    void write(const QByteArray &bytes);
     QByteArray written();
 
     QMutex m_mutex;
@@ -32,10 +33,13 @@ void tst_SlowNotice::init()
 
 StatusLine tst_SlowNotice::line()
 {
-    return StatusLine([this](const QByteArray &bytes) {
-        const QMutexLocker lock(&m_mutex);
-        m_written += bytes;
-    });
+    return StatusLine([this](const QByteArray &bytes) { write(bytes); });
+}
+
+void tst_SlowNotice::write(const QByteArray &bytes)
+{
+    const QMutexLocker lock(&m_mutex);
+    m_written += bytes;
 }
 
 QByteArray tst_SlowNotice::written()

@@ -5,6 +5,8 @@
 #include <QSet>
 #include <QTest>
 
+#include <algorithm>
+
 using ScenarioAction::SetCameraConnected;
 
 namespace {
@@ -34,8 +36,8 @@ QStringList asText(const std::vector<ScenarioEvent> &events)
         const auto &change = std::get<SetCameraConnected>(event.action);
         lines.append(QStringLiteral("%1 %2 %3")
                          .arg(event.atMs)
-                         .arg(change.cameraId)
-                         .arg(change.connected ? QStringLiteral("up") : QStringLiteral("down")));
+                         .arg(change.cameraId,
+                              change.connected ? QStringLiteral("up") : QStringLiteral("down")));
     }
     return lines;
 }
@@ -101,7 +103,7 @@ void tst_Storm::flappingCamerasAreAllBackInTheEnd()
         isUp[change.cameraId] = change.connected;
     }
     QCOMPARE(isUp.size(), 5);
-    QVERIFY(!isUp.values().contains(false));
+    QVERIFY(std::all_of(isUp.cbegin(), isUp.cend(), [](bool up) { return up; }));
     QCOMPARE(events.back().atMs, StartMs + 1300);
 }
 

@@ -12,19 +12,25 @@
 
 namespace {
 
-// Every node with what its roles say, one a line, those below indented.
+// What the roles of a node say.
+QString described(const QModelIndex &node)
+{
+    QStringList fields;
+    for (const int role : {TopologyRole::NodeId, TopologyRole::DisplayName, TopologyRole::Type,
+                           TopologyRole::Connected})
+        fields.append(node.data(role).toString());
+    fields.append(
+        node.data(TopologyRole::NameMap).toMap().value(QStringLiteral("nameRole")).toString());
+    return fields.join(u'|');
+}
+
+// Every node as described, one a line, those below indented.
 void describe(const QAbstractItemModel &model, const QModelIndex &parent, const QString &indent,
               QStringList &lines)
 {
     for (int row = 0; row < model.rowCount(parent); ++row) {
         const QModelIndex index = model.index(row, 0, parent);
-        QStringList fields;
-        for (const int role : {TopologyRole::NodeId, TopologyRole::DisplayName, TopologyRole::Type,
-                               TopologyRole::Connected})
-            fields.append(index.data(role).toString());
-        fields.append(
-            index.data(TopologyRole::NameMap).toMap().value(QStringLiteral("nameRole")).toString());
-        lines.append(indent + fields.join(u'|'));
+        lines.append(indent + described(index));
         describe(model, index, indent + u' ', lines);
     }
 }

@@ -121,16 +121,16 @@ void tst_TopologyPlugin::anotherSiteTakesThePlaceOfTheFirst()
 
 void tst_TopologyPlugin::statusIsInTheModelBeforeItsSignal()
 {
-    bool wasConnected = true;
+    const auto wasConnected = std::make_shared<bool>(true);
     connect(m_topology.get(), &TopologyPlugin::nodeStatusChanged, this,
-            [this, &wasConnected](int, const QString &id) {
-                wasConnected = find(id).data(284).toBool();
+            [this, wasConnected](int, const QString &id) {
+                *wasConnected = find(id).data(284).toBool();
             });
     m_topology->setNodeStatus(NodeType::Camera, QStringLiteral("north/c1"), false);
-    QVERIFY(!wasConnected);
+    QVERIFY(!*wasConnected);
     m_topology->setNodeStatus(NodeType::Station, QStringLiteral("north/annex"), false);
     m_topology->setNodeStatus(NodeType::Station, QStringLiteral("north/annex"), true);
-    QVERIFY(wasConnected);
+    QVERIFY(*wasConnected);
     QCOMPARE(m_log.take(),
              QStringList({QStringLiteral(R"(nodeStatusChanged(0, "north/c1", false))"),
                           QStringLiteral(R"(nodeStatusChanged(1, "north/annex", false))"),

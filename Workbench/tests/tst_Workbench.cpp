@@ -133,7 +133,7 @@ void tst_Workbench::deliversEventsOfTheServer()
           1000});
     m_fixture->workbench.start();
     m_fixture->clock.advance(500);
-    QCOMPARE(takeLog().last(),
+    QCOMPARE(takeLog().constLast(),
              QStringLiteral(R"(event ServerReachingLimited {"serverName": "Main", )"
                             R"("virtualSizePercentage": 87.5} from '')"));
     m_fixture->clock.advance(5000);
