@@ -124,13 +124,15 @@ void ErrorIndex::dropKey(Row &row)
     if (!row.isKeyed)
         return;
     row.isKeyed = false;
-    const auto first = m_keys.find(qHash(row.key));
-    Row **link = &first.value();
+    const size_t hash = qHash(row.key);
+    Row *&first = m_keys[hash];
+    Row **link = &first;
     while (*link != &row)
         link = &(*link)->nextOfHash;
     *link = row.nextOfHash;
-    if (!first->second)
-        m_keys.erase(first);
+    // By the hash: by its place, the table would look for the next entry, however far that is.
+    if (!first)
+        m_keys.erase(hash);
     m_usageKeys.remove(row.key);
 }
 
@@ -253,7 +255,7 @@ void ErrorIndex::clear()
     m_freeRows.clear();
     m_rowsOfItems.clear();
     m_filesItems = false;
-    m_keys = {};
+    m_keys = Keys();
     m_usageKeys.clear();
     m_stations.clear();
     m_lastStation = nullptr;

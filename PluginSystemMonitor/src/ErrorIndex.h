@@ -83,6 +83,7 @@ private:
         Row *first = nullptr;
         int size = 0;
     };
+    using Keys = tsl::hopscotch_map<size_t, Row *>;
     using Stations = std::map<QString, Group>;
     using Devices = std::unordered_map<QString, Group>;
 
@@ -144,7 +145,7 @@ private:
     QList<Row *> m_freeRows;
     QHash<const QStandardItem *, Row *> m_rowsOfItems;
     bool m_filesItems = false;
-    tsl::hopscotch_map<size_t, Row *> m_keys; ///< by the hashes of the keys, which are not copied
+    Keys m_keys; ///< by the hashes of the keys, which are not copied
     UsageKeys m_usageKeys;
     Stations m_stations;
     Stations::value_type *m_lastStation = nullptr; ///< under which a row was filed last
@@ -154,7 +155,7 @@ private:
     const QStandardItem *m_announcedItem = nullptr;
     quint64 m_newestAge = 0;
     int m_changes = 0;           ///< announced and not yet done
-    bool m_tracksDoomed = false; ///< rows were tracked that a removal may have announced
+    bool m_tracksDoomed = false; ///< rows may have been tracked amiss in mid-change
 };
 
 #endif

@@ -146,7 +146,11 @@ void ErrorIndex::refileRows(int first, int last)
 
 void ErrorIndex::beginChange()
 {
-    ++m_changes;
+    if (m_changes++ == 0)
+        return;
+    // What is told of changes within one another may come in another order than they did.
+    m_tracksDoomed = true;
+    fileItems();
 }
 
 void ErrorIndex::endChange()

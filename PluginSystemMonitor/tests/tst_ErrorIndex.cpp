@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <functional>
 #include <numeric>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -337,6 +338,7 @@ private Q_SLOTS:
     void rowChangedWhileItGoesIsForgotten();
     void rowThatAnEarlierWatcherSortedIsFiledOnce();
     void rowThatIsSortedWithinARemovalIsFiledOnce();
+    void rowsToldInAnotherOrderAreAllFiled();
     void changesWithinARemovalWithinARemovalAreFollowed();
     void randomChangesAreFollowed();
 };
@@ -725,6 +727,22 @@ void tst_ErrorIndex::rowThatIsSortedWithinARemovalIsFiledOnce()
     item->removeRow(0);
     QCOMPARE(filed, errors.model.rowCount());
     QCOMPARE(errors.differences().join(u' '), QString());
+}
+
+void tst_ErrorIndex::rowsToldInAnotherOrderAreAllFiled()
+{
+    Errors errors;
+    errors.append(u"old"_s, error(u"st1"_s));
+    bool isFirst = true;
+    connect(&errors.model, &QAbstractItemModel::rowsInserted, &errors.model, [&] {
+        if (std::exchange(isFirst, false))
+            errors.model.insertRow(0, error(u"st2"_s));
+    });
+    errors.index.setModel(&errors.model); // hears of the second row before the first from now on
+    errors.append(u"k1"_s, error(u"st3"_s));
+    QCOMPARE(errors.differences().join(u' '), QString());
+    errors.model.removeRows(0, errors.model.rowCount());
+    QVERIFY(errors.index.countsByStation().isEmpty());
 }
 
 void tst_ErrorIndex::changesWithinARemovalWithinARemovalAreFollowed()
