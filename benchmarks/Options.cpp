@@ -71,6 +71,10 @@ Options Options::fromArguments(const QStringList &arguments)
     const QCommandLineOption runs(QStringLiteral("runs"),
                                   QStringLiteral("Repetitions at most, of which the best counts."),
                                   QStringLiteral("count"), QStringLiteral("5"));
+    const QCommandLineOption enough(
+        QStringLiteral("enough"),
+        QStringLiteral("The repetitions of a timed part end when they took this long together."),
+        QStringLiteral("seconds"), QStringLiteral("2"));
     const QCommandLineOption budget(
         QStringLiteral("budget"),
         QStringLiteral("A scenario that will probably take longer is left out."),
@@ -86,7 +90,7 @@ Options Options::fromArguments(const QStringList &arguments)
     parser.setApplicationDescription(
         QStringLiteral("Measures the plug-in beside what bare Qt needs for the same changes."));
     parser.addHelpOption();
-    parser.addOptions({scenario, size, plugin, runs, budget, idle, output});
+    parser.addOptions({scenario, size, plugin, runs, enough, budget, idle, output});
     parser.process(arguments);
 
     Options options;
@@ -96,6 +100,7 @@ Options Options::fromArguments(const QStringList &arguments)
     for (const QString &text : plugins)
         options.plugins.append(pluginIn(text));
     options.runs = positiveInteger(parser.value(runs));
+    options.enoughSeconds = positiveNumber(parser.value(enough));
     options.budgetSeconds = positiveNumber(parser.value(budget));
     options.idleSeconds = positiveNumber(parser.value(idle));
     options.outputFile = parser.value(output);

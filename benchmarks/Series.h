@@ -5,14 +5,17 @@
 
 #include <optional>
 
-/// How long one scenario takes, size by size in ascending order.
+/// How long one scenario takes, size by size. Sizes come in ascending order; each may be measured
+/// again later, and counts with its best time.
 class Series
 {
 public:
-    void add(int size, double milliseconds) { m_points.append({size, milliseconds}); }
+    void add(int size, double milliseconds);
 
-    /// The milliseconds at a size, if it was measured.
+    /// The best time of a size in milliseconds, if it was measured.
     std::optional<double> at(int size) const;
+    /// How many milliseconds the repetitions of a size took together; 0 before the first.
+    double spent(int size) const;
 
     /// How long a further size will take, in milliseconds, judged by the sizes so far: by their
     /// growth, or by the square of the size after the first. Nothing is expected before that.
@@ -25,8 +28,11 @@ private:
     struct Point
     {
         int size;
-        double milliseconds;
+        double best;
+        double spent;
     };
+
+    qsizetype indexOf(int size) const;
 
     QList<Point> m_points;
 };

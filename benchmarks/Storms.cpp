@@ -6,13 +6,10 @@
 #include "Series.h"
 #include "Table.h"
 
-#include <algorithm>
 #include <array>
+#include <optional>
 
 namespace {
-
-// Repetitions end when they have taken this long.
-constexpr double EnoughMilliseconds = 2000;
 
 constexpr std::array AllScenarios = {
     &StartUpWalkConnected, &StartUpWalkDisconnected, &CamerasGoDown,
@@ -23,27 +20,42 @@ constexpr std::array AllScenarios = {
 
 const QString Missing = QStringLiteral("—");
 
-double bestOf(Scenario::Run run, const Setting &setting, int runs)
+// The floor, or the scenario with one of the plug-ins.
+struct Subject
 {
-    double best = run(setting);
-    double total = best;
-    for (int i = 1; i < runs && total < EnoughMilliseconds; ++i) {
-        const double milliseconds = run(setting);
-        best = std::min(best, milliseconds);
-        total += milliseconds;
+    Scenario::Run run;
+    QString pluginFile; ///< the floor's set-up reads its rows from the list of the first plug-in
+    Series series;
+
+    bool isTooLong(int size, const Options &options) const
+    {
+        return !series.at(size) && series.expected(size) > options.budgetSeconds * 1000;
     }
-    return best;
+};
+
+QList<Subject> subjectsOf(const Scenario &scenario, const QList<MeasuredPlugin> &plugins)
+{
+    QList<Subject> subjects{{scenario.floor, plugins.first().file, {}}};
+    for (const MeasuredPlugin &plugin : plugins)
+        subjects.append({scenario.plugin, plugin.file, {}});
+    return subjects;
 }
 
-// Measures one size, and returns what its cell of the table says.
-QString measure(Series &series, Scenario::Run run, const Setting &setting, const Options &options)
+void measureRound(QList<Subject> &subjects, int size, const Options &options)
 {
-    const double expected = series.expected(setting.size);
-    if (expected > options.budgetSeconds * 1000)
-        return QStringLiteral("%1 (~%2 s)").arg(Missing, formatted(expected / 1000));
-    const double milliseconds = bestOf(run, setting, options.runs);
-    series.add(setting.size, milliseconds);
-    return formatted(milliseconds);
+    for (Subject &subject : subjects) {
+        if (!subject.isTooLong(size, options)
+            && subject.series.spent(size) < options.enoughSeconds * 1000)
+            subject.series.add(size, subject.run({subject.pluginFile, size}));
+    }
+}
+
+QString time(const Subject &subject, int size)
+{
+    if (const std::optional<double> milliseconds = subject.series.at(size))
+        return formatted(*milliseconds);
+    return QStringLiteral("%1 (~%2 s)")
+        .arg(Missing, formatted(subject.series.expected(size) / 1000));
 }
 
 QString factor(std::optional<double> number)
@@ -66,26 +78,33 @@ QStringList header(const QList<MeasuredPlugin> &plugins)
     return cells;
 }
 
+QStringList cells(const Scenario &scenario, const QList<Subject> &subjects, int size)
+{
+    const Subject &floor = subjects.first();
+    QStringList cells{QLatin1String(scenario.name), QLatin1String(scenario.title), formatted(size),
+                      time(floor, size), factor(floor.series.growth(size))};
+    for (qsizetype i = 1; i < subjects.size(); ++i) {
+        const Subject &plugin = subjects.at(i);
+        cells << time(plugin, size) << ratio(plugin.series.at(size), floor.series.at(size))
+              << factor(plugin.series.growth(size));
+    }
+    return cells;
+}
+
+// All sizes and subjects in turn, again and again: a minute in which the machine is busy with other
+// things then falls on each of them, and so does a calm one.
 void measureScenario(const Scenario &scenario, const Options &options, Table &table)
 {
-    Series floors;
-    QList<Series> plugins(options.plugins.size());
+    QList<Subject> subjects = subjectsOf(scenario, options.plugins);
     const QList<int> sizes =
         scenario.fixedSize > 0 ? QList<int>{scenario.fixedSize} : options.sizes;
-    for (const int size : sizes) {
-        progress(QStringLiteral("%1, N = %2").arg(QLatin1String(scenario.name), formatted(size)));
-        // The floor's set-up reads its rows from the list of the first plug-in.
-        const QString cell =
-            measure(floors, scenario.floor, {options.plugins.first().file, size}, options);
-        QStringList cells{QLatin1String(scenario.name), QLatin1String(scenario.title),
-                          formatted(size), cell, factor(floors.growth(size))};
-        for (qsizetype i = 0; i < plugins.size(); ++i) {
-            Series &series = plugins[i];
-            cells << measure(series, scenario.plugin, {options.plugins.at(i).file, size}, options)
-                  << ratio(series.at(size), floors.at(size)) << factor(series.growth(size));
-        }
-        table.add(cells);
+    for (int run = 0; run < options.runs; ++run) {
+        progress(QStringLiteral("%1, run %2").arg(QLatin1String(scenario.name)).arg(run + 1));
+        for (const int size : sizes)
+            measureRound(subjects, size, options);
     }
+    for (const int size : sizes)
+        table.add(cells(scenario, subjects, size));
 }
 
 } // namespace
@@ -104,7 +123,7 @@ QString measureStorms(const Options &options)
         return QString();
     return QStringLiteral(
                "## Storms\n\n"
-               "Best of up to %1 runs. \"/ floor\" is the ratio to the floor, \"growth\" "
+               "Best of up to %1 runs in turn. \"/ floor\" is the ratio to the floor, \"growth\" "
                "that to the size before. \"— (~80 s)\" was left out: the sizes before "
                "let expect more than %2 s.\n\n%3")
         .arg(options.runs)

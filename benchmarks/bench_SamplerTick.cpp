@@ -10,7 +10,9 @@
 #include "Table.h"
 
 #include <algorithm>
+#include <functional>
 #include <memory>
+#include <utility>
 
 namespace {
 
@@ -25,17 +27,32 @@ std::function<void()> ownTick()
     };
 }
 
-double bestMicroseconds(const std::function<void()> &tick, int runs)
+struct Subject
 {
-    double best = 0;
+    QString name;
+    std::function<void()> tick; ///< null where the library is missing
+    double best = 0;            ///< in microseconds
+};
+
+double microsecondsPerTick(const std::function<void()> &tick)
+{
+    const StopWatch watch;
+    for (int i = 0; i < Ticks; ++i)
+        tick();
+    return watch.milliseconds() * 1000 / Ticks;
+}
+
+// All in turn, so that a minute in which the machine is busy falls on each of them.
+void measureRounds(QList<Subject> &subjects, int runs)
+{
     for (int run = 0; run < runs; ++run) {
-        const StopWatch watch;
-        for (int i = 0; i < Ticks; ++i)
-            tick();
-        const double microseconds = watch.milliseconds() * 1000 / Ticks;
-        best = run == 0 ? microseconds : std::min(best, microseconds);
+        for (Subject &subject : subjects) {
+            if (!subject.tick)
+                continue;
+            const double microseconds = microsecondsPerTick(subject.tick);
+            subject.best = run == 0 ? microseconds : std::min(subject.best, microseconds);
+        }
     }
-    return best;
 }
 
 } // namespace
@@ -44,14 +61,15 @@ QString measureSamplerTick(const Options &options)
 {
     progress(QStringLiteral("sampler tick"));
     Table table({QString(), QStringLiteral("µs each tick")}, 1);
-    const auto add = [&](const QString &name, const std::function<void()> &tick) {
-        table.add(
-            {name, tick ? formatted(bestMicroseconds(tick, options.runs)) : QStringLiteral("—")});
+    QList<Subject> subjects{
+        {QStringLiteral("reading the two files"), readingTick()},
+        {QStringLiteral("own samplers"), ownTick()},
+        {QStringLiteral("libgtop2"), gtopTick()},
+        {QStringLiteral("libproc2"), proc2Tick()},
     };
-    add(QStringLiteral("reading the two files"), readingTick());
-    add(QStringLiteral("own samplers"), ownTick());
-    add(QStringLiteral("libgtop2"), gtopTick());
-    add(QStringLiteral("libproc2"), proc2Tick());
+    measureRounds(subjects, options.runs);
+    for (const Subject &subject : std::as_const(subjects))
+        table.add({subject.name, subject.tick ? formatted(subject.best) : QStringLiteral("—")});
 
     QString text = QStringLiteral("## Sampler tick\n\n"
                                   "CPU and memory, best of %1 times %2 ticks. The samplers are "
