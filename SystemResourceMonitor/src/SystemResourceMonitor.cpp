@@ -19,7 +19,8 @@ constexpr int SamplingIntervalMs = 1000;
 class RegisteredTypes
 {
 public:
-    RegisteredTypes() = default;
+    // Qt's table of types begins with the first one, and is to end later than this at exit.
+    RegisteredTypes() { qRegisterMetaType<NetworkUsage>(); }
     ~RegisteredTypes()
     {
         takeBack(QMetaType::fromType<QList<NetworkUsage>>());
@@ -46,7 +47,6 @@ void registerSignalTypes()
     // Made first, so that it ends last: the list's conversions name its type once more when they
     // go.
     static const RegisteredTypes types;
-    qRegisterMetaType<NetworkUsage>();
     qRegisterMetaType<QList<NetworkUsage>>();
 }
 
