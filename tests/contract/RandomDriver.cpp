@@ -4,6 +4,8 @@
 
 #include <QAbstractItemModelTester>
 
+#include <algorithm>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -42,6 +44,15 @@ void showValues(QStandardItem &item, const ReferenceNode &node)
     item.setData(node.id, TopologyRole::NodeID);
     item.setData(node.type, TopologyRole::NodeType);
     item.setData(node.isConnected, TopologyRole::Connected);
+}
+
+void sortByID(ReferenceNode &parent)
+{
+    std::stable_sort(
+        parent.children.begin(), parent.children.end(),
+        [](const ReferenceNode &left, const ReferenceNode &right) { return left.id < right.id; });
+    for (ReferenceNode &child : parent.children)
+        sortByID(child);
 }
 
 QString words(std::initializer_list<QVariant> values)
@@ -103,6 +114,8 @@ QString RandomDriver::step()
         &RandomDriver::changeTopology,
         &RandomDriver::changeNode,
         &RandomDriver::moveNode,
+        &RandomDriver::moveNode,
+        &RandomDriver::sortNodes,
         &RandomDriver::removeNode,
         &RandomDriver::pairAnew,
         &RandomDriver::endTopology,
@@ -221,17 +234,21 @@ QString RandomDriver::changeTopology()
     return u"change topology"_s;
 }
 
+RandomDriver::Node RandomDriver::someNode()
+{
+    Node node{&m_reference.top, m_topology->item(0)};
+    while (!node.values->children.isEmpty() && !oneIn(3)) {
+        const int row = below(static_cast<int>(node.values->children.size()));
+        node = {&node.values->children[row], node.item->child(row)};
+    }
+    return node;
+}
+
 QString RandomDriver::changeNode()
 {
     if (!m_topology || !m_reference.hasTop)
         return u"no node to change"_s;
-    ReferenceNode *node = &m_reference.top;
-    QStandardItem *item = m_topology->item(0);
-    while (!node->children.isEmpty() && !oneIn(4)) {
-        const int row = below(static_cast<int>(node->children.size()));
-        node = &node->children[row];
-        item = item->child(row);
-    }
+    const auto [node, item] = someNode();
     const ReferenceNode values = randomNode(0);
     switch (below(4)) {
     case 0:
@@ -252,28 +269,43 @@ QString RandomDriver::changeNode()
 
 QString RandomDriver::moveNode()
 {
-    const int count = m_reference.hasTop ? static_cast<int>(m_reference.top.children.size()) : 0;
-    if (!m_topology || count < 2)
+    if (!m_topology || !m_reference.hasTop)
         return u"no node to move"_s;
-    const int from = below(count);
-    const int to = below(count - 1);
-    QStandardItem *const top = m_topology->item(0);
-    const QList<QStandardItem *> row = top->takeRow(from);
-    top->child(to)->insertRow(0, row);
-    const ReferenceNode node = m_reference.top.children.takeAt(from);
-    m_reference.top.children[to].children.prepend(node);
-    return u"move node "_s + words({from, to});
+    const Node oldParent = someNode();
+    if (oldParent.values->children.isEmpty())
+        return u"no node to move"_s;
+    const int from = below(static_cast<int>(oldParent.values->children.size()));
+    const ReferenceNode values = oldParent.values->children.takeAt(from);
+    const QList<QStandardItem *> row = oldParent.item->takeRow(from);
+
+    const Node newParent = someNode();
+    const int to = below(static_cast<int>(newParent.values->children.size()) + 1);
+    newParent.values->children.insert(to, values);
+    newParent.item->insertRow(to, row);
+    return u"move node "_s + words({values.id, from, newParent.values->id, to});
+}
+
+QString RandomDriver::sortNodes()
+{
+    if (!m_topology)
+        return u"no nodes to sort"_s;
+    m_topology->setSortRole(TopologyRole::NodeID);
+    m_topology->sort(0);
+    sortByID(m_reference.top);
+    return u"sort nodes"_s;
 }
 
 QString RandomDriver::removeNode()
 {
-    const int count = m_reference.hasTop ? static_cast<int>(m_reference.top.children.size()) : 0;
-    if (!m_topology || count == 0)
+    if (!m_topology || !m_reference.hasTop)
         return u"no node to remove"_s;
-    const int row = below(count);
-    m_topology->item(0)->removeRow(row);
-    m_reference.top.children.removeAt(row);
-    return u"remove node "_s + words({row});
+    const Node parent = someNode();
+    if (parent.values->children.isEmpty())
+        return u"no node to remove"_s;
+    const int row = below(static_cast<int>(parent.values->children.size()));
+    const QString id = parent.values->children.takeAt(row).id;
+    parent.item->removeRow(row);
+    return u"remove node "_s + words({id});
 }
 
 QString RandomDriver::pairAnew()

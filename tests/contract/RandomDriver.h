@@ -43,6 +43,13 @@ public:
 private:
     using Operation = QString (RandomDriver::*)();
 
+    /// A node of the device tree, with the item that shows it.
+    struct Node
+    {
+        ReferenceNode *values;
+        QStandardItem *item;
+    };
+
     QString reportNode();
     QString reportNodeAtStartUp();
     QString removeCamera();
@@ -50,6 +57,7 @@ private:
     QString changeTopology();
     QString changeNode();
     QString moveNode();
+    QString sortNodes();
     QString removeNode();
     QString pairAnew();
     QString endTopology();
@@ -91,6 +99,7 @@ private:
     QVariantMap snoozeData();
     QVariant networkEntry();
     ReferenceNode randomNode(int depth);
+    Node someNode();
     void showTopology();
     QStandardItemModel &errorModel();
 
