@@ -17,6 +17,11 @@ QVariant detached(const QVariant &value)
     return QString(text.constData(), text.size());
 }
 
+bool isSameText(const QVariant &left, const QVariant &right)
+{
+    return left.typeId() == QMetaType::QString && left.toString() == right.toString();
+}
+
 } // namespace
 
 ErrorRow errorRow(const QStandardItemModel &errors, int row)
@@ -38,8 +43,12 @@ QList<ErrorRow> errorRows(const QStandardItemModel &errors)
 QStandardItem *BareErrorList::append(const ErrorRow &row)
 {
     auto *item = new QStandardItem;
-    for (std::size_t value = 0; value < row.size(); ++value)
-        item->setData(detached(row[value]), roleOf(value));
+    for (std::size_t value = 0; value < row.size(); ++value) {
+        QVariant &last = m_last[value];
+        if (!isSameText(last, row[value]))
+            last = detached(row[value]);
+        item->setData(last, roleOf(value));
+    }
     model.appendRow(item);
     return item;
 }

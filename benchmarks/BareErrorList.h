@@ -21,15 +21,19 @@ class BareErrorList
 public:
     QStandardItemModel model;
 
-    /// Appends a row; the model owns the item.
+    /// Appends a row; the model owns the item. A text that the row before has as well is shared
+    /// with it, any other is the row's own.
     QStandardItem *append(const ErrorRow &row);
 
-    /// Fills the list before a timed part and returns the items in the order of the rows. Every row
-    /// gets texts of its own, which then lie in memory where a plug-in's would: beside their item.
+    /// Fills the list before a timed part and returns the items in the order of the rows. The texts
+    /// then lie in memory where a plug-in's would: beside their item.
     QList<QStandardItem *> fill(const QList<ErrorRow> &rows);
 
     /// Removes a row, wherever it stands by now.
     void remove(const QStandardItem *item) { model.removeRow(item->row()); }
+
+private:
+    ErrorRow m_last;
 };
 
 #endif

@@ -57,6 +57,6 @@ QString measureMemory(const Options &options)
         table.add({plugin.label, formatted(bytesPerError(plugin.file))});
     return QStringLiteral("## Memory\n\n"
                           "Allocated for a list of %1 cameras that are down, without a proxy; the "
-                          "bare row has texts of its own.\n\n%2")
+                          "bare row shares the texts that the row before has.\n\n%2")
         .arg(formatted(Errors), table.toMarkdown());
 }
