@@ -20,3 +20,5 @@ qt_add_resources(Dashboard Dashboard_catalogues
     PREFIX /i18n
     BASE "${CMAKE_CURRENT_BINARY_DIR}"
     FILES ${DASHBOARD_CATALOGUES})
+# An installed module lies beside its catalogues, as files.
+set(DASHBOARD_CATALOGUES "${DASHBOARD_CATALOGUES}" PARENT_SCOPE)
