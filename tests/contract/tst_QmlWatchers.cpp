@@ -55,6 +55,18 @@ QByteArray page(const QString &target, const QString &handler, const QString &ac
         .toUtf8();
 }
 
+/// The signals that tell of no model.
+void causeAnswers(TestHost &host)
+{
+    host.event(u"ServerReachingLimited"_s,
+               QVariantMap{{u"serverName"_s, u"Main"_s}, {u"virtualSizePercentage"_s, 93.5}});
+    host.respond(u"setSnooze"_s, QVariantMap{{u"nodeID"_s, u"st1/cam1"_s}, {u"type"_s, 3}});
+    host.ask<bool>("checkSupportSystemMonitor", u"st1"_s);
+    host.respond(u"isSupportSystemMonitor"_s, {}, u"0"_s, host.framework.commands().last().context);
+    // As the sampler has it emitted, which would take a second each time.
+    host.invoke("clientResourceChanged", 10, 20);
+}
+
 void cause(TestHost &host)
 {
     const QVariantList networks{QVariantMap{{u"networkInterface"_s, u"en0"_s}},
@@ -70,6 +82,7 @@ void cause(TestHost &host)
     report(95);
     host.invoke("monitorVolumeStatus", u"st2"_s);
     host.invoke("monitorNodeStatus", 0, u"st1/cam1"_s, false);
+    causeAnswers(host);
     report(5);
     host.invoke("monitorInsufficientRecordingDays", u"st2"_s, u"A"_s, u"g"_s);
     host.invoke("monitorInsufficientRecordingDays", u"st2"_s, u"B"_s, u"g"_s);
@@ -97,7 +110,9 @@ void tst_QmlWatchers::handlerMayCallBack_data()
     const QList<std::pair<QString, QStringList>> signalsOf{
         {u"plugin"_s,
          {u"onSystemResourceChanged"_s, u"onFocusStationResourceChanged"_s,
-          u"onStationErrorListChanged"_s, u"onNotifySystemResourceUpdated"_s}},
+          u"onStationErrorListChanged"_s, u"onNotifySystemResourceUpdated"_s,
+          u"onClientResourceChanged"_s, u"onIsSupportSystemMonitor"_s,
+          u"onNotifyServerReachingLimited"_s, u"onSetSnoozeResponse"_s}},
         {u"page.errors"_s,
          {u"onColumnsAboutToBeInserted"_s, u"onRowsAboutToBeInserted"_s, u"onRowsInserted"_s,
           u"onRowsAboutToBeRemoved"_s, u"onRowsRemoved"_s, u"onDataChanged"_s}},
