@@ -20,6 +20,8 @@ private Q_SLOTS:
     void init();
     void handlerMayCallBack_data();
     void handlerMayCallBack();
+    void handlerMayRemoveErrorsItself_data();
+    void handlerMayRemoveErrorsItself();
 };
 
 namespace {
@@ -53,6 +55,61 @@ QByteArray page(const QString &target, const QString &handler, const QString &ac
         }
     )"_s.arg(target, handler, act)
         .toUtf8();
+}
+
+/// A host that shows a page.
+struct Watched
+{
+    explicit Watched(const QByteArray &text)
+    {
+        QStandardItem *const station = host.topologyModel.addStation(u"st1"_s, u"Lobby"_s);
+        TopologyModel::addCamera(station, u"st1/cam1"_s, u"Door"_s, false);
+        TopologyModel::addCamera(station, u"st1/cam2"_s, u"Gate"_s, false);
+        engine.rootContext()->setContextProperty(u"plugin"_s, host.object());
+        QQmlComponent component(&engine);
+        component.setData(text, QUrl());
+        page.reset(component.create());
+        if (!page)
+            qFatal("%s", qPrintable(component.errorString()));
+    }
+
+    QAbstractItemModel *model(const char *name) const
+    {
+        return page->property(name).value<QAbstractItemModel *>();
+    }
+
+    TestHost host;
+    QQmlEngine engine;
+    std::unique_ptr<QObject> page;
+};
+
+QStringList signalsOfPlugin()
+{
+    return {u"onSystemResourceChanged"_s,       u"onFocusStationResourceChanged"_s,
+            u"onStationErrorListChanged"_s,     u"onNotifySystemResourceUpdated"_s,
+            u"onClientResourceChanged"_s,       u"onIsSupportSystemMonitor"_s,
+            u"onNotifyServerReachingLimited"_s, u"onSetSnoozeResponse"_s};
+}
+
+QStringList signalsOfResources()
+{
+    return {u"onModelAboutToBeReset"_s,   u"onModelReset"_s,   u"onColumnsAboutToBeInserted"_s,
+            u"onRowsAboutToBeInserted"_s, u"onRowsInserted"_s, u"onDataChanged"_s};
+}
+
+/// Every act in the handler of every signal.
+void addRows(const QList<std::pair<QString, QStringList>> &signalsOf,
+             const QList<std::pair<QString, QString>> &acts)
+{
+    for (const auto &[target, handlers] : signalsOf) {
+        for (const QString &handler : handlers) {
+            for (const auto &[name, act] : acts) {
+                QTest::addRow("%s, %s, %s", qPrintable(target), qPrintable(handler),
+                              qPrintable(name))
+                    << target << handler << act;
+            }
+        }
+    }
 }
 
 /// The signals that tell of no model.
@@ -108,20 +165,14 @@ void tst_QmlWatchers::handlerMayCallBack_data()
     QTest::addColumn<QString>("act");
 
     const QList<std::pair<QString, QStringList>> signalsOf{
-        {u"plugin"_s,
-         {u"onSystemResourceChanged"_s, u"onFocusStationResourceChanged"_s,
-          u"onStationErrorListChanged"_s, u"onNotifySystemResourceUpdated"_s,
-          u"onClientResourceChanged"_s, u"onIsSupportSystemMonitor"_s,
-          u"onNotifyServerReachingLimited"_s, u"onSetSnoozeResponse"_s}},
+        {u"plugin"_s, signalsOfPlugin()},
         {u"page.errors"_s,
          {u"onColumnsAboutToBeInserted"_s, u"onRowsAboutToBeInserted"_s, u"onRowsInserted"_s,
           u"onRowsAboutToBeRemoved"_s, u"onRowsRemoved"_s, u"onDataChanged"_s}},
         {u"page.early"_s,
          {u"onRowsAboutToBeInserted"_s, u"onRowsInserted"_s, u"onRowsAboutToBeRemoved"_s,
           u"onRowsRemoved"_s, u"onDataChanged"_s}},
-        {u"page.resources"_s,
-         {u"onModelAboutToBeReset"_s, u"onModelReset"_s, u"onColumnsAboutToBeInserted"_s,
-          u"onRowsAboutToBeInserted"_s, u"onRowsInserted"_s, u"onDataChanged"_s}},
+        {u"page.resources"_s, signalsOfResources()},
     };
     const QList<std::pair<QString, QString>> acts{
         {u"walks"_s, u"plugin.initNodeStatusError()"_s},
@@ -133,15 +184,7 @@ void tst_QmlWatchers::handlerMayCallBack_data()
         {u"makes a view"_s, u"plugin.getSystemErrorSortFilterModel(page)"_s},
         {u"destroys its view"_s, u"if (page.early) page.early.destroy()"_s},
     };
-    for (const auto &[target, handlers] : signalsOf) {
-        for (const QString &handler : handlers) {
-            for (const auto &[name, act] : acts) {
-                QTest::addRow("%s, %s, %s", qPrintable(target), qPrintable(handler),
-                              qPrintable(name))
-                    << target << handler << act;
-            }
-        }
-    }
+    addRows(signalsOf, acts);
 }
 
 void tst_QmlWatchers::handlerMayCallBack()
@@ -149,27 +192,64 @@ void tst_QmlWatchers::handlerMayCallBack()
     QFETCH(const QString, target);
     QFETCH(const QString, handler);
     QFETCH(const QString, act);
-    TestHost host;
-    QStandardItem *const station = host.topologyModel.addStation(u"st1"_s, u"Lobby"_s);
-    TopologyModel::addCamera(station, u"st1/cam1"_s, u"Door"_s, false);
-    TopologyModel::addCamera(station, u"st1/cam2"_s, u"Gate"_s, false);
-
-    QQmlEngine engine;
-    engine.rootContext()->setContextProperty(u"plugin"_s, host.object());
-    QQmlComponent component(&engine);
-    component.setData(page(target, handler, act), QUrl());
-    const std::unique_ptr<QObject> page(component.create());
-    QVERIFY2(page, qPrintable(component.errorString()));
-    auto *const late = page->property("late").value<QAbstractItemModel *>();
+    Watched watched(page(target, handler, act));
+    auto *const late = watched.model("late");
     QVERIFY(late);
     const QAbstractItemModelTester tester(late);
 
-    cause(host);
-    cause(host);
-    QVERIFY(page->property("handled").toInt() > 0);
-    QCOMPARE(late->rowCount(), host.errors()->rowCount());
-    const auto *resources = page->property("resources").value<QAbstractItemModel *>();
+    cause(watched.host);
+    cause(watched.host);
+    QVERIFY(watched.page->property("handled").toInt() > 0);
+    QCOMPARE(late->rowCount(), watched.host.errors()->rowCount());
+    const auto *resources = watched.model("resources");
     QVERIFY(resources->rowCount() == 3 || resources->rowCount() == 4);
+}
+
+void tst_QmlWatchers::handlerMayRemoveErrorsItself_data()
+{
+    QTest::addColumn<QString>("target");
+    QTest::addColumn<QString>("handler");
+    QTest::addColumn<QString>("act");
+
+    // Not when rows come or go, nor before: no Qt model can lose rows while it announces a change,
+    // and no view can hear of the removal before it has heard of the change. QML's handlers are
+    // told before the views, whichever were connected first.
+    const QList<std::pair<QString, QStringList>> signalsOf{
+        {u"plugin"_s, signalsOfPlugin()},
+        {u"page.errors"_s, {u"onDataChanged"_s}},
+        {u"page.early"_s, {u"onDataChanged"_s}},
+        {u"page.resources"_s, signalsOfResources()},
+    };
+    const QList<std::pair<QString, QString>> acts{
+        {u"the first"_s, u"page.errors.removeRow(0)"_s},
+        {u"all"_s, u"page.errors.removeRows(0, page.errors.rowCount())"_s},
+        {u"the first shown"_s, u"page.early.removeRow(0)"_s},
+        {u"all shown"_s, u"page.early.removeRows(0, page.early.rowCount())"_s},
+    };
+    addRows(signalsOf, acts);
+}
+
+void tst_QmlWatchers::handlerMayRemoveErrorsItself()
+{
+    QFETCH(const QString, target);
+    QFETCH(const QString, handler);
+    QFETCH(const QString, act);
+    Watched watched(page(target, handler, act));
+    TestHost &host = watched.host;
+    auto *const late = watched.model("late");
+    QVERIFY(late);
+    const QAbstractItemModelTester tester(late);
+    cause(host);
+    cause(host);
+    QVERIFY(watched.page->property("handled").toInt() > 0);
+    QCOMPARE(late->rowCount(), host.errors()->rowCount());
+
+    // The plug-in knows what is gone and what is left.
+    watched.page->setProperty("acts", false);
+    for (const QString &id : {u"st2"_s, u"st3"_s, u"st3"_s})
+        host.invoke("monitorVolumeStatus", id);
+    QCOMPARE(host.errorKeys().count(u"5_st2"_s), 1);
+    QCOMPARE(host.errorKeys().count(u"5_st3"_s), 1);
 }
 
 QTEST_GUILESS_MAIN(tst_QmlWatchers)
