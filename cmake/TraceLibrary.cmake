@@ -20,19 +20,24 @@ function(trace_library_directory VARIANT OUT)
     set(${OUT} "${CMAKE_BINARY_DIR}/tests/trace/${VARIANT}" PARENT_SCOPE)
 endfunction()
 
-# add_trace_variant_tests(<test>)
-# Runs a test program, registered already, once more for each variant, because a process can load
-# only one library of a name. TRACE_LIBRARY_VARIANT tells the program which it is; the registered
-# test itself runs without any.
+# add_trace_variant_tests(<test> [<variant>...])
+# Runs a test program, registered already, once more for each of these variants, or for all, because
+# a process can load only one library of a name. TRACE_LIBRARY_VARIANT tells the program which it is;
+# the registered test itself runs without any.
 function(add_trace_variant_tests NAME)
+    set(VARIANTS ${ARGN})
+    if(NOT VARIANTS)
+        set(VARIANTS ${TRACE_LIBRARY_VARIANTS})
+    endif()
+    get_test_property(${NAME} LABELS LABELS)
+    get_test_property(${NAME} ENVIRONMENT ENVIRONMENT)
     set_property(TEST ${NAME} APPEND PROPERTY ENVIRONMENT
         "LD_LIBRARY_PATH=" "TRACE_LIBRARY_VARIANT=missing")
-    get_test_property(${NAME} LABELS LABELS)
-    foreach(VARIANT IN LISTS TRACE_LIBRARY_VARIANTS)
+    foreach(VARIANT IN LISTS VARIANTS)
         trace_library_directory(${VARIANT} DIRECTORY)
         add_test(NAME ${NAME}.${VARIANT} COMMAND ${NAME})
         set_tests_properties(${NAME}.${VARIANT} PROPERTIES
             LABELS "${LABELS}"
-            ENVIRONMENT "${SYSTEM_MONITOR_TEST_ENVIRONMENT};LD_LIBRARY_PATH=${DIRECTORY};TRACE_LIBRARY_VARIANT=${VARIANT}")
+            ENVIRONMENT "${ENVIRONMENT};LD_LIBRARY_PATH=${DIRECTORY};TRACE_LIBRARY_VARIANT=${VARIANT}")
     endforeach()
 endfunction()

@@ -6,6 +6,7 @@
 #include "MemoryUse.h"
 #include "PluginBase.h"
 #include "PluginIDs.h"
+#include "TestTraceLibrary.h"
 #include "TopologyModel.h"
 
 #include <QCoreApplication>
@@ -15,7 +16,8 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-/// The plug-in comes and goes a thousand times, its file with it, and leaves nothing behind.
+/// The plug-in comes and goes a thousand times, its file with it, and leaves nothing behind: with a
+/// trace library, which it has to open and to close each time, and without.
 class tst_LoadCycles : public QObject
 {
     Q_OBJECT
@@ -34,6 +36,11 @@ constexpr int FirstLives = 200;
 // Less than a string in every second life.
 constexpr qint64 MostHeapGrowth = qint64{16} * 1024;
 constexpr qint64 MostResidentGrowth = qint64{2} * 1024 * 1024;
+
+bool hasTraceLibrary()
+{
+    return qgetenv("TRACE_LIBRARY_VARIANT") != "missing";
+}
 
 /// Loads the plug-in, has it do something of everything, ends it and unloads the file.
 void live(int number)
@@ -54,6 +61,8 @@ void live(int number)
     auto *const plugin = qobject_cast<PluginBase *>(object);
     if (!plugin)
         qFatal("%s", qUtf8Printable(loader.errorString()));
+    if (TestTraceLibrary::isLoaded() != hasTraceLibrary())
+        qFatal("The trace library is not what it should be in life %d", number);
     framework.registerPlugin(PluginID::SystemMonitor, object);
     framework.registerPlugin(PluginID::Topology, &topology);
     framework.registerPlugin(PluginID::RecordingManagement, &recording);
@@ -92,6 +101,8 @@ void live(int number)
         qFatal("%s", qUtf8Printable(loader.errorString()));
     if (isLoadedFile(loader.fileName()))
         qFatal("The plug-in's file stays after life %d", number);
+    if (TestTraceLibrary::isLoaded())
+        qFatal("The trace library stays after life %d", number);
     QCoreApplication::sendPostedEvents();
 }
 
