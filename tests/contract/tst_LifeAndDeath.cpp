@@ -25,6 +25,7 @@ private Q_SLOTS:
     void topologyModelMayEndFirst();
     void topologyModelMayEndWhileTheWalkIsDue();
     void otherPluginsMayEndFirst();
+    void frameworkMayEndBeforeThePlugin();
     void hostMayReplaceTheOtherPlugins();
     void viewsMayEndAtAnyTime();
     void viewsMayOutliveThePlugin();
@@ -169,6 +170,24 @@ void tst_LifeAndDeath::otherPluginsMayEndFirst()
     QCOMPARE(host.errorKeys(), QStringList{u"4_st1"_s});
     QVERIFY(!log.lines().contains(u"reloadStorageUsageInfo \"st1\""_s));
     host.plugin()->LoadPairPluginDone();
+}
+
+void tst_LifeAndDeath::frameworkMayEndBeforeThePlugin()
+{
+    TestHost host(TestHost::Loaded);
+    auto framework = std::make_unique<HandMadeFramework>(host.log);
+    framework->registerPlugin(PluginID::SystemMonitor, host.object());
+    framework->registerPlugin(PluginID::Topology, &host.topology);
+    framework->registerPlugin(PluginID::RecordingManagement, &host.recording);
+    QVERIFY(host.plugin()->InitialPluginBase(nullptr, framework->handle(), framework->framework()));
+    host.plugin()->LoadPairPluginDone();
+    fill(host);
+    QVERIFY(!host.errorKeys().isEmpty());
+
+    host.log.take();
+    framework.reset();
+    delete host.object();
+    QCOMPARE(host.log.take(), QStringList());
 }
 
 void tst_LifeAndDeath::hostMayReplaceTheOtherPlugins()
