@@ -28,6 +28,7 @@ private Q_SLOTS:
     void objectLivesThroughEverySubject();
     void unloadingRemovesTheFileFromTheProcess();
     void unloadingClosesTheTraceLibrary();
+    void noTimerCallsIntoTheUnloadedFile();
     void fileMayBeLoadedAgain();
 
 private:
@@ -98,6 +99,13 @@ void tst_Unloading::unloadingRemovesTheFileFromTheProcess()
 void tst_Unloading::unloadingClosesTheTraceLibrary()
 {
     QVERIFY(!TestTraceLibrary::isLoaded());
+}
+
+void tst_Unloading::noTimerCallsIntoTheUnloadedFile()
+{
+    // Longer than the recount and the sampler would have waited; a call would end the process.
+    QTest::qWait(1500);
+    QVERIFY(!isLoadedFile(QStringLiteral(PLUGIN_FILE)));
 }
 
 void tst_Unloading::fileMayBeLoadedAgain()
