@@ -1,6 +1,5 @@
 import QtQuick
 import QtQuick.Controls.Basic
-import QtTest
 import Dashboard
 import Dashboard.Testing
 
