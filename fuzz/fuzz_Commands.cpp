@@ -2,11 +2,12 @@
 #include "FuzzTarget.h"
 #include "HostedPlugin.h"
 #include "Invariants.h"
+#include "NodeReport.h"
 #include "PluginSystemMonitorCommon.h"
 #include "SystemErrorModel.h"
 
-// Responses to commands: their names, data and result codes. Every question has one answer, which
-// frees the question's context.
+// Responses to commands: their names, data and result codes. Questions wait for their answers side
+// by side. Each has one, in any order, which frees the question's context.
 
 using namespace Qt::Literals::StringLiterals;
 using namespace PluginSystemMonitorCommon;
@@ -38,25 +39,71 @@ int sharers(QString &text)
     return memory ? memory->ref_.loadRelaxed() : 0;
 }
 
-void answerQuestion(HostedPlugin &hosted, FuzzInput &input)
+/// The questions that wait for their answers, each with a context of its own.
+class OpenQuestions
 {
-    hosted.host.acceptsCommands = input.flag();
-    // The context shares the memory of what was asked, which therefore counts it.
-    QString id = input.id();
-    id.detach();
-    const int without = sharers(id);
-    hosted.plugin.checkSupportSystemMonitor(id);
-    void *const context = hosted.host.commands().last().context;
-    hosted.host.forgetCommands();
-    const int open = id.isEmpty() ? 0 : without + 1;
-    require(sharers(id) == open, "a question has one context");
-    // Other answers leave the context alone, whatever they carry.
-    hosted.respond(METHOD_SET_SNOOZE, {}, u"0"_s, context);
-    hosted.respond(METHOD_GET_SNOOZE_LIST, {}, u"0"_s, context);
-    require(sharers(id) == open, "a context stays until its answer comes");
-    hosted.respond(u"isSupportSystemMonitor"_s, input.value(), resultCode(input), context);
-    require(sharers(id) == without, "an answer frees its context once");
-}
+public:
+    explicit OpenQuestions(HostedPlugin &hosted)
+        : m_hosted(hosted)
+    { }
+
+    void ask(FuzzInput &input)
+    {
+        m_hosted.host.acceptsCommands = input.flag();
+        // The context shares the memory of what was asked, which therefore counts it.
+        QString id = input.id();
+        id.detach();
+        const int alone = sharers(id);
+        m_hosted.plugin.checkSupportSystemMonitor(id);
+        void *const context = m_hosted.host.commands().last().context;
+        m_hosted.host.forgetCommands();
+        m_questions.append({std::move(id), alone, context});
+        requireContexts();
+    }
+
+    void answerOne(FuzzInput &input)
+    {
+        if (m_questions.isEmpty())
+            return;
+        Question question = m_questions.takeAt(input.below(static_cast<int>(m_questions.size())));
+        // Other answers leave the context alone, whatever they carry.
+        m_hosted.respond(METHOD_SET_SNOOZE, {}, u"0"_s, question.context);
+        m_hosted.respond(METHOD_GET_SNOOZE_LIST, m_hosted.plugin.snoozedDeviceList, u"0"_s,
+                         question.context);
+        require(sharers(question.id) == question.sharersWhileOpen(),
+                "a context stays until its answer comes");
+        m_hosted.respond(u"isSupportSystemMonitor"_s, input.value(), resultCode(input),
+                         question.context);
+        require(sharers(question.id) == question.alone, "an answer frees its context once");
+        requireContexts();
+    }
+
+    void answerAll(FuzzInput &input)
+    {
+        while (!m_questions.isEmpty())
+            answerOne(input);
+    }
+
+private:
+    struct Question
+    {
+        QString id;
+        int alone; ///< how many share the id's memory when there is no context
+        void *context;
+
+        int sharersWhileOpen() const { return id.isEmpty() ? 0 : alone + 1; }
+    };
+
+    void requireContexts()
+    {
+        for (Question &question : m_questions)
+            require(sharers(question.id) == question.sharersWhileOpen(),
+                    "an open question has one context, whatever is asked and answered beside it");
+    }
+
+    HostedPlugin &m_hosted;
+    QList<Question> m_questions;
+};
 
 void respond(HostedPlugin &hosted, FuzzInput &input)
 {
@@ -65,10 +112,12 @@ void respond(HostedPlugin &hosted, FuzzInput &input)
     QString command = input.below(8) == 7 ? input.text() : input.oneOf(commands);
     const QVariant data = responseData(input, command);
     const int rows = hosted.plugin.errorModel->rowCount();
+    const QStringList snoozes = hosted.plugin.snoozedDeviceList;
     hosted.respond(command, data, resultCode(input));
     require(hosted.plugin.errorModel->rowCount() == rows, "a response changes no row");
-    if (command == METHOD_GET_SNOOZE_LIST)
-        require(hosted.plugin.snoozedDeviceList == data.toStringList(), "the list is taken whole");
+    require(hosted.plugin.snoozedDeviceList
+                == (command == METHOD_GET_SNOOZE_LIST ? data.toStringList() : snoozes),
+            "a list of snoozes is taken whole, and nothing else snoozes");
 }
 
 } // namespace
@@ -78,13 +127,17 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     FuzzInput input(data, size);
     HostedPlugin hosted;
     const LeftKeys leftKeys(hosted.plugin);
+    OpenQuestions questions(hosted);
     while (!input.isEmpty()) {
         switch (input.below(6)) {
         case 0:
-            Q_EMIT hosted.topology.nodeStatusChanged(input.below(2), input.id(), input.flag());
+            reportNode(hosted, input);
             break;
         case 1:
-            answerQuestion(hosted, input);
+            if (input.flag())
+                questions.ask(input);
+            else
+                questions.answerOne(input);
             break;
         case 2:
             hosted.plugin.setSnooze(input.id(), input.number(), static_cast<int>(input.number()));
@@ -97,6 +150,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
             respond(hosted, input);
         }
     }
+    questions.answerAll(input);
     requireConsistency(hosted.plugin);
     leftKeys.requireForgotten();
     return 0;

@@ -2,6 +2,7 @@
 #include "FuzzTarget.h"
 #include "HostedPlugin.h"
 #include "Invariants.h"
+#include "NodeReport.h"
 #include "PluginSystemMonitorCommon.h"
 
 // Server events: their names, their data, where they come from; and node reports between them.
@@ -62,26 +63,6 @@ void sendEvent(HostedPlugin &hosted, FuzzInput &input)
                     || hosted.plugin.lists(type, id),
                 "an error that outlasts its snooze is listed");
     }
-}
-
-void reportNode(HostedPlugin &hosted, FuzzInput &input)
-{
-    const int type = input.below(3);
-    const QString id = input.id();
-    const bool isConnected = input.flag();
-    const bool isSnoozed = hosted.plugin.snoozedDeviceList.contains(id);
-    const ErrorType error = type == 0 ? CameraDisconnected : StationDisconnected;
-    const bool wasListed = hosted.plugin.lists(error, id);
-    Q_EMIT hosted.topology.nodeStatusChanged(type, id, isConnected);
-    if (type > 1)
-        return;
-    const bool isListed = hosted.plugin.lists(error, id);
-    if (isConnected)
-        require(!isListed, "a connected node is not listed");
-    else if (!isSnoozed)
-        require(isListed, "a disconnected node is listed");
-    else
-        require(!isListed || wasListed, "a snoozed node is not listed again");
 }
 
 } // namespace
