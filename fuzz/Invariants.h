@@ -17,6 +17,22 @@ void require(bool holds, const char *what);
 /// histories.
 void requireConsistency(TestedPlugin &plugin);
 
+/// Requires it in the course of an input too, so that a fault that a later step covers up is seen:
+/// every few steps, since it takes several times as long as a step does.
+class RegularConsistency
+{
+public:
+    explicit RegularConsistency(TestedPlugin &plugin)
+        : m_plugin(plugin)
+    { }
+
+    void afterStep();
+
+private:
+    TestedPlugin &m_plugin;
+    int m_steps = 0;
+};
+
 /// Remembers the keys of all rows that leave the error list of a plug-in, not owned.
 class LeftKeys
 {

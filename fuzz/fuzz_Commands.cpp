@@ -127,6 +127,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     FuzzInput input(data, size);
     HostedPlugin hosted;
     const LeftKeys leftKeys(hosted.plugin);
+    RegularConsistency consistency(hosted.plugin);
     OpenQuestions questions(hosted);
     while (!input.isEmpty()) {
         switch (input.below(6)) {
@@ -149,6 +150,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
         default:
             respond(hosted, input);
         }
+        consistency.afterStep();
     }
     questions.answerAll(input);
     requireConsistency(hosted.plugin);

@@ -72,6 +72,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     FuzzInput input(data, size);
     HostedPlugin hosted;
     const LeftKeys leftKeys(hosted.plugin);
+    RegularConsistency consistency(hosted.plugin);
     hosted.plugin.setFocusStationResource(u"st1"_s);
     while (!input.isEmpty()) {
         switch (input.below(8)) {
@@ -87,6 +88,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
         default:
             sendEvent(hosted, input);
         }
+        consistency.afterStep();
     }
     requireConsistency(hosted.plugin);
     leftKeys.requireForgotten();

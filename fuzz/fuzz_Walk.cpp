@@ -147,6 +147,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     FuzzInput input(data, size);
     HostedPlugin hosted;
     const LeftKeys leftKeys(hosted.plugin);
+    RegularConsistency consistency(hosted.plugin);
     while (!input.isEmpty()) {
         if (hosted.topologyModel.rowCount() == 0)
             hosted.topologyModel.appendRow(new QStandardItem);
@@ -174,6 +175,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
         default:
             addNode(node, input);
         }
+        consistency.afterStep();
     }
     requireWalk(hosted);
     requireConsistency(hosted.plugin);
