@@ -73,7 +73,7 @@ Options Options::fromArguments(const QStringList &arguments)
                                   QStringLiteral("count"), QStringLiteral("5"));
     const QCommandLineOption enough(
         QStringLiteral("enough"),
-        QStringLiteral("The repetitions of a timed part end when they took this long together."),
+        QStringLiteral("The repetitions end when those of one timed part took this long together."),
         QStringLiteral("seconds"), QStringLiteral("2"));
     const QCommandLineOption budget(
         QStringLiteral("budget"),

@@ -24,7 +24,7 @@ struct Options
     QList<int> sizes;       ///< the values of N, ascending
     QList<MeasuredPlugin> plugins;
     int runs = 0;             ///< how often a timed part is repeated at most
-    double enoughSeconds = 0; ///< the repetitions of a timed part end when they took this long
+    double enoughSeconds = 0; ///< repetitions end when those of one part took this long
     double budgetSeconds = 0; ///< how long a timed part may be expected to take
     double idleSeconds = 0;   ///< how long an idle plug-in is watched
     QString outputFile;       ///< where the tables go besides the terminal; may be empty

@@ -6,6 +6,7 @@
 #include "Series.h"
 #include "Table.h"
 
+#include <algorithm>
 #include <array>
 #include <optional>
 
@@ -27,25 +28,36 @@ struct Subject
     QString pluginFile; ///< the floor's set-up reads its rows from the list of the first plug-in
     Series series;
 
-    bool isTooLong(int size, const Options &options) const
-    {
-        return !series.at(size) && series.expected(size) > options.budgetSeconds * 1000;
-    }
+    QList<int> sizesLeftOut; ///< which would take too long
 };
 
 QList<Subject> subjectsOf(const Scenario &scenario, const QList<MeasuredPlugin> &plugins)
 {
-    QList<Subject> subjects{{scenario.floor, plugins.first().file, {}}};
+    QList<Subject> subjects{{scenario.floor, plugins.first().file, {}, {}}};
     for (const MeasuredPlugin &plugin : plugins)
-        subjects.append({scenario.plugin, plugin.file, {}});
+        subjects.append({scenario.plugin, plugin.file, {}, {}});
     return subjects;
+}
+
+void leaveOutWhatTakesTooLong(QList<Subject> &subjects, int size, const Options &options)
+{
+    for (Subject &subject : subjects) {
+        if (subject.series.expected(size) > options.budgetSeconds * 1000)
+            subject.sizesLeftOut.append(size);
+    }
 }
 
 void measureRound(QList<Subject> &subjects, int size, const Options &options)
 {
+    // All end together: the best of many runs would be compared with the best of few.
+    const bool isEnough =
+        std::any_of(subjects.cbegin(), subjects.cend(), [&](const Subject &subject) {
+            return subject.series.spent(size) >= options.enoughSeconds * 1000;
+        });
+    if (isEnough)
+        return;
     for (Subject &subject : subjects) {
-        if (!subject.isTooLong(size, options)
-            && subject.series.spent(size) < options.enoughSeconds * 1000)
+        if (!subject.sizesLeftOut.contains(size))
             subject.series.add(size, subject.run({subject.pluginFile, size}));
     }
 }
@@ -100,8 +112,11 @@ void measureScenario(const Scenario &scenario, const Options &options, Table &ta
         scenario.fixedSize > 0 ? QList<int>{scenario.fixedSize} : options.sizes;
     for (int run = 0; run < options.runs; ++run) {
         progress(QStringLiteral("%1, run %2").arg(QLatin1String(scenario.name)).arg(run + 1));
-        for (const int size : sizes)
+        for (const int size : sizes) {
+            if (run == 0)
+                leaveOutWhatTakesTooLong(subjects, size, options);
             measureRound(subjects, size, options);
+        }
     }
     for (const int size : sizes)
         table.add(cells(scenario, subjects, size));

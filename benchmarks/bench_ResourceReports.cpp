@@ -107,11 +107,12 @@ struct RowChange
     ErrorRow values; ///< what was inserted at the end
 };
 
-// The changes that the plug-in makes to its list in the course of the reports. Nothing is looked up
-// in the topology here, which is empty.
-QList<RowChange> recordChanges(const Setting &setting, const QList<Report> &reports)
+// The changes that the plug-in makes to its list in the course of the reports.
+QList<RowChange> recordChanges(const Setting &setting, const Site &site,
+                               const QList<Report> &reports)
 {
     SilentHost host(setting.pluginFile);
+    site.addStationsTo(host.topologyModel, true);
     const QStandardItemModel &errors = *host.errors();
     int current = 0;
     QList<RowChange> changes;
@@ -157,7 +158,7 @@ double bareReport(const Setting &setting)
 {
     const Site site(setting.size, ReportsPerStation);
     const QList<Report> reports = makeReports(site, setting.size);
-    const QList<RowChange> changes = recordChanges(setting, reports);
+    const QList<RowChange> changes = recordChanges(setting, site, reports);
     TopologyModel topology;
     site.addStationsTo(topology, true);
     const int stations = static_cast<int>(site.stations().size());

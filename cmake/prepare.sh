@@ -1,6 +1,6 @@
 # shellcheck shell=bash disable=SC2154 # root is set by who sources this
-# Sourced by ./run, ./test, ./check, fuzz/run and tests/mutation/run: installs what is missing and
-# builds. Says nothing when there is nothing to do.
+# Sourced by ./run, ./test, ./check, fuzz/run, tests/mutation/run and packaging/try-package: installs
+# what is missing and builds. Says nothing when there is nothing to do.
 
 cd "$root" || exit
 

@@ -11,7 +11,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 // Makes the slowest target take less than three times as long.
-constexpr int StepsBetween = 3;
+constexpr int StepsForEachCheck = 3;
 
 QList<int> rowsOf(const QList<QStandardItem *> &items)
 {
@@ -94,7 +94,7 @@ void requireConsistency(TestedPlugin &plugin)
 
 void RegularConsistency::afterStep()
 {
-    if (++m_steps % StepsBetween == 0)
+    if (++m_steps % StepsForEachCheck == 0)
         requireConsistency(m_plugin);
 }
 

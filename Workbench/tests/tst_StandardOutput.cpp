@@ -14,7 +14,7 @@ namespace {
 using FilePtr = std::unique_ptr<FILE, int (*)(FILE *)>;
 
 // A file that takes nothing, as a full disk does; not every system has one.
-const QString Full = QStringLiteral("/dev/full");
+const QString FullDevice = QStringLiteral("/dev/full");
 
 FilePtr opened(const QString &name)
 {
@@ -46,9 +46,9 @@ void tst_StandardOutput::whatIsPrintedIsWritten()
 
 void tst_StandardOutput::whatCannotBeWrittenIsAFailure()
 {
-    if (!QFileInfo::exists(Full))
+    if (!QFileInfo::exists(FullDevice))
         QSKIP("This system has no /dev/full.");
-    const FilePtr full = opened(Full);
+    const FilePtr full = opened(FullDevice);
     StandardOutput output(full.get());
     output.stream() << "text" << Qt::endl;
     QCOMPARE(hostFailure([&output] { output.expectWritten(); }),
@@ -57,9 +57,9 @@ void tst_StandardOutput::whatCannotBeWrittenIsAFailure()
 
 void tst_StandardOutput::nothingPrintedIsNoFailure()
 {
-    if (!QFileInfo::exists(Full))
+    if (!QFileInfo::exists(FullDevice))
         QSKIP("This system has no /dev/full.");
-    const FilePtr full = opened(Full);
+    const FilePtr full = opened(FullDevice);
     StandardOutput output(full.get());
     QCOMPARE(hostFailure([&output] { output.expectWritten(); }), QString());
 }

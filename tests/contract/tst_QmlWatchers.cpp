@@ -112,7 +112,7 @@ void addRows(const QList<std::pair<QString, QStringList>> &signalsOf,
     }
 }
 
-/// The signals that tell of no model.
+/// Causes the signals that no change of a model comes with: answers, warnings, samples.
 void causeAnswers(TestHost &host)
 {
     host.event(u"ServerReachingLimited"_s,

@@ -28,7 +28,7 @@ namespace {
 
 constexpr int Tenths = 10;
 constexpr int EventsOfABlock = 1'000;
-constexpr int MostEvents = 1'000'000;
+constexpr int EventsOfAWholeRun = 1'000'000;
 constexpr int Stations = 20;
 constexpr int CamerasOfAStation = 20;
 constexpr qint64 MostHeapGrowth = qint64{64} * 1024;
@@ -217,7 +217,7 @@ int eventsOfThisRun()
 {
     bool isSet = false;
     const int events = qEnvironmentVariableIntValue("SOAK_EVENTS", &isSet);
-    return isSet ? events : MostEvents;
+    return isSet ? events : EventsOfAWholeRun;
 }
 
 /// Processor time of this process in microseconds: others on the machine do not count.
@@ -271,7 +271,7 @@ void tst_Soak::millionEventsCostTheSameToTheLast()
               lastTime, errors, last.allocated, last.resident);
     }
     // A short run is over before its times are steady, and what is made once still comes in it.
-    if (events < MostEvents)
+    if (events < EventsOfAWholeRun)
         return;
     QCOMPARE_LE(lastTime, firstTime * MostTimeGrowth);
     if (!MemoryUse::isMeaningful())
